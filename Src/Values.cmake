@@ -1,5 +1,5 @@
 set(values_sources)
-foreach(module Types Conversions SLVersion BiC)
+foreach(module Types Conversions SLVersion BiC Config)
   if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
     list(APPEND values_sources ${module}.cpp)
   endif()
