@@ -1,9 +1,3 @@
-set(link_sources)
-foreach(module :Threads:TDPort TDFirmware TavorDev)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
-    list(APPEND link_sources ${module}.cpp)
-  endif()
-endforeach()
-if(link_sources)
-  zarn_layer(link SOURCES ${link_sources} LINK values Threads)
-endif()
+zarn_layer(link
+  SOURCES TDPort.cpp TDFirmware.cpp TavorDev.cpp TavorDevServices.cpp TavorDevProfile.cpp
+  LINK values Threads::Threads)

@@ -163,6 +163,7 @@ private:
     bool EnterMode(Mode setMode);
     void FillCache() const;
     bool WriteByte(RR::UInt32 loc, RR::UInt08 value);
+    FanState GetFan(int index) const;
     bool GetSensorData(Sensor sensor, RR::Array<unsigned char>& data) const;
     bool SetSensorData(Sensor sensor, const RR::Array<unsigned char>& data);
     RR::FixPnt3 GetSensorValue(Sensor sensor, RR::SInt32 driftBelowRange = 0) const;

@@ -3,18 +3,32 @@
 #include <gtest/gtest.h>
 #include <QCoreApplication>
 
-/// Runs the tests of one program on a desk board in a new folder that goes with it.
+namespace {
+
+/// Runs before the global objects of the program are built, which look for the board already.
+__attribute__((constructor(101))) void PlugBoard()
+{
+    if (std::getenv("ZARN_BOARD")) {
+        return;
+    }
+    static char folder[] = "/tmp/zarn-test-XXXXXX";
+    if (mkdtemp(folder)) {
+        setenv("ZARN_BOARD", folder, 1);
+    }
+}
+
+}
+
+/// Runs the tests of one program on a desk board in a new folder that goes with it, unless one is given.
 int main(int argc, char** argv)
 {
-    std::string folder = (std::filesystem::temp_directory_path() / "zarn-test-XXXXXX").string();
-    if (!mkdtemp(folder.data())) {
-        return 1;
-    }
-    setenv("ZARN_BOARD", folder.c_str(), 1);
+    const std::string board = std::getenv("ZARN_BOARD");
     QCoreApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();
-    std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
+    if (board.starts_with("/tmp/zarn-test-")) {
+        std::error_code ignored;
+        std::filesystem::remove_all(board, ignored);
+    }
     return result;
 }

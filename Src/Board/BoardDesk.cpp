@@ -30,7 +30,7 @@ void Touch(const fs::path& file, std::uintmax_t size = 0)
 void Furnish(const fs::path& root)
 {
     std::error_code ignored;
-    const bool newBoard = !fs::exists(root / "dev", ignored);
+    const bool newBoard = !fs::exists(root / "mnt/sdcard-i", ignored);
     fs::create_directories(root / "dev", ignored);
     fs::create_directories(root / "etc", ignored);
     fs::create_directories(root / "mnt/sdcard-i/Measurements", ignored);
