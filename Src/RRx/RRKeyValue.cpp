@@ -1,0 +1,290 @@
+#include "RRx/RRKeyValue.h"
+
+#include "RRx/RRFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <string_view>
+
+namespace RR {
+
+namespace {
+
+/// What a character may stand in, one bit each.
+enum CharClass : UInt08 { IN_KEY = 1, IN_VALUE = 2, IN_COMMENT = 4 };
+
+constexpr std::array<UInt08, 256> MakeCharClasses()
+{
+    std::array<UInt08, 256> classes{};
+    for (int c = 0; c < 256; ++c) {
+        const bool inKey = c >= 0x21 && c <= 0x7E && c != '*' && c != '#' && c != '?' && c != '=';
+        const bool inValue = ((c >= 0x07 && c <= 0x0D) || (c >= 0x20 && c <= 0x7E) || c >= 0xA1) && c != '"';
+        const bool inComment = c != '\r' && c != '\n';
+        classes[static_cast<std::size_t>(c)] =
+            static_cast<UInt08>((inKey ? IN_KEY : 0) | (inValue ? IN_VALUE : 0) | (inComment ? IN_COMMENT : 0));
+    }
+    return classes;
+}
+
+constexpr std::array<UInt08, 256> charClasses = MakeCharClasses();
+
+bool IsIn(char c, CharClass charClass)
+{
+    return charClasses[static_cast<UInt08>(c)] & charClass;
+}
+
+bool IsAllIn(const String& text, CharClass charClass)
+{
+    const char* at = text;
+    return std::all_of(at, at + text.GetLen(), [charClass](char c) { return IsIn(c, charClass); });
+}
+
+bool IsLineEnd(char c)
+{
+    return c == '\r' || c == '\n';
+}
+
+/// Walks once over the bytes of a file.
+class Reader {
+public:
+    explicit Reader(const String& text) : at(text), end(at + text.GetLen()) {}
+
+    bool IsAtEnd() const { return at == end; }
+
+    /// Takes the rest of a line without its end; `key` is empty for a comment or a blank line. `false` if the line
+    /// breaks the format.
+    bool TakeLine(std::string_view& key, std::string_view& value)
+    {
+        key = TakeAll(IN_KEY);
+        if (!key.empty()) {
+            SkipBlanks();
+            if (!Take('=')) {
+                return false;
+            }
+            SkipBlanks();
+            if (!Take('"')) {
+                return false;
+            }
+            value = TakeAll(IN_VALUE);
+            if (!Take('"')) {
+                return false;
+            }
+        }
+        SkipBlanks();
+        if (Take('#')) {
+            TakeAll(IN_COMMENT);
+        }
+        return IsAtEnd() || IsLineEnd(*at);
+    }
+
+    /// Takes all line ends that follow and returns their number; CR LF is one.
+    SInt32 TakeLineEnds()
+    {
+        SInt32 number = 0;
+        for (; at != end && IsLineEnd(*at); ++number) {
+            const bool isReturn = *at++ == '\r';
+            if (isReturn) {
+                Take('\n');
+            }
+        }
+        return number;
+    }
+
+private:
+    bool Take(char c)
+    {
+        const bool there = at != end && *at == c;
+        at += there;
+        return there;
+    }
+
+    std::string_view TakeAll(CharClass charClass)
+    {
+        const char* const start = at;
+        while (at != end && IsIn(*at, charClass)) {
+            ++at;
+        }
+        return std::string_view(start, static_cast<std::size_t>(at - start));
+    }
+
+    void SkipBlanks()
+    {
+        while (at != end && (*at == ' ' || *at == '\t')) {
+            ++at;
+        }
+    }
+
+    const char* at;
+    const char* const end;
+};
+
+String ToString(std::string_view text)
+{
+    return String(text.data(), static_cast<SInt32>(text.size()));
+}
+
+constexpr std::string_view commentStart = "# ";
+constexpr std::string_view valueStart = " = \"";
+constexpr std::string_view valueEnd = "\"\r\n";
+constexpr std::string_view lineEnd = "\r\n";
+
+/// Writes behind one another into a buffer sized beforehand.
+class Writer {
+public:
+    explicit Writer(String& text) : at(text.Adr()) {}
+
+    void Put(std::string_view text) { at = std::copy(text.begin(), text.end(), at); }
+    void Put(const String& text) { Put(std::string_view(text.Adr(), static_cast<std::size_t>(text.GetLen()))); }
+    void PutBlanks(SInt32 number) { at = std::fill_n(at, number, ' '); }
+    void PutPrintable(char c) { *at++ = c < 0x20 || c > 0x7E ? '.' : c; }
+
+private:
+    char* at;
+};
+
+SInt64 CountHeadBytes(const String& headline)
+{
+    const char* const text = headline;
+    const SInt64 inner = std::count(text, text + headline.GetLen(), '\n');
+    const SInt64 framePerLine = static_cast<SInt64>(commentStart.size() + lineEnd.size());
+    return headline.IsEmpty() ? 0 : headline.GetLen() - inner + (inner + 1) * framePerLine;
+}
+
+void PutHead(Writer& writer, const String& headline)
+{
+    if (headline.IsEmpty()) {
+        return;
+    }
+    writer.Put(commentStart);
+    const char* const text = headline;
+    for (SInt32 i = 0; i < headline.GetLen(); ++i) {
+        if (text[i] == '\n') {
+            writer.Put(lineEnd);
+            writer.Put(commentStart);
+        } else {
+            writer.PutPrintable(text[i]);
+        }
+    }
+    writer.Put(lineEnd);
+}
+
+}
+
+KeyValue::Entry& KeyValue::Entry::Next()
+{
+    hld.Next();
+    return *this;
+}
+
+KeyValue::Entry& KeyValue::Entry::Prev()
+{
+    hld.Prev();
+    return *this;
+}
+
+const String& KeyValue::operator()(const String& key) const
+{
+    static const String missing;
+    Entry::Handle h;
+    return list.Find(key, h) ? h.Entry() : missing;
+}
+
+bool KeyValue::operator()(const String& key, const String& value)
+{
+    if (key.IsEmpty() || !IsAllIn(key, IN_KEY) || !IsAllIn(value, IN_VALUE)) {
+        return false;
+    }
+    if (value.IsEmpty()) {
+        return list.Remove(key);
+    }
+    Entry::Handle h;
+    list.InsertUnique(key, h);
+    h.Entry() = value;
+    return true;
+}
+
+bool KeyValue::Load()
+{
+    return Load(fileName);
+}
+
+bool KeyValue::Load(const String& fn)
+{
+    SInt32 sytaxErr;
+    SInt32 dblEntry;
+    return Load(fn, sytaxErr, dblEntry);
+}
+
+bool KeyValue::Load(const String& fn, SInt32& sytaxErr, SInt32& dblEntry)
+{
+    fileName = fn;
+    sytaxErr = INVALID;
+    dblEntry = INVALID;
+    String text;
+    if (!FILE_Read(fileName, text)) {
+        return false;
+    }
+    // Files of the writer are sorted: each entry goes right behind the one before it, without a search.
+    Entry::Handle latest = list.Last();
+    SInt32 line = 1;
+    for (Reader reader(text); !reader.IsAtEnd(); line += reader.TakeLineEnds()) {
+        std::string_view key;
+        std::string_view value;
+        if (!reader.TakeLine(key, value)) {
+            list.SetEmpty();
+            sytaxErr = line;
+            return false;
+        }
+        if (value.empty()) {
+            continue;
+        }
+        const String keyText = ToString(key);
+        String valueText = ToString(value);
+        if (!list.InsertUnique(keyText, latest, latest)) {
+            list.SetEmpty();
+            list.Insert(keyText, valueText);
+            dblEntry = line;
+            return false;
+        }
+        latest.Entry().SwapResources(valueText);
+    }
+    return true;
+}
+
+bool KeyValue::Save() const
+{
+    SInt32 width = 0;
+    for (Entry entry = First(); entry.IsValid(); entry.Next()) {
+        width = std::max(width, entry.GetKey().GetLen());
+    }
+    const SInt64 framePerEntry = width + static_cast<SInt64>(valueStart.size() + valueEnd.size());
+    SInt64 bytes = CountHeadBytes(headline);
+    for (Entry entry = First(); entry.IsValid(); entry.Next()) {
+        bytes += framePerEntry + entry.GetValue().GetLen();
+    }
+    if (bytes > INT32_MAX) {
+        return false;
+    }
+
+    String text;
+    text.SetLen(static_cast<SInt32>(bytes));
+    Writer writer(text);
+    PutHead(writer, headline);
+    for (Entry entry = First(); entry.IsValid(); entry.Next()) {
+        writer.Put(entry.GetKey());
+        writer.PutBlanks(width - entry.GetKey().GetLen());
+        writer.Put(valueStart);
+        writer.Put(entry.GetValue());
+        writer.Put(valueEnd);
+    }
+    return FILE_Write(fileName, text);
+}
+
+bool KeyValue::Save(const String& fn)
+{
+    fileName = fn;
+    return Save();
+}
+
+}
