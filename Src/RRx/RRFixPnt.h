@@ -58,7 +58,8 @@ public:
         return FixPntRaw::FromDouble(src, dst.GetBase(), dst.f, bias);
     }
 
-    /// -1, 0 or 1. Scales to the type of more places, so that no digit is lost; invalid is the smallest value.
+    /// -1, 0 or 1. Scales to the type of more places, so that no digit is lost. Invalid is below all valid values that
+    /// the type of more places can hold; one beyond its range counts by its sign alone.
     static constexpr int Compare(const FixPnt& cmp1, const FixPnt& cmp2);
     /// Exact in double arithmetic: `cmp2` isn't rounded to the places of `cmp1`.
     static constexpr int Compare(const FixPnt& cmp1, double cmp2);
