@@ -136,6 +136,8 @@ void Settings::Load()
     SInt32 dblRow = RR::INVALID;
     if (!store.Load(path, errRow, dblRow)) {
         ReportFailedLoad(path, store, errRow, dblRow);
+        // A repeated key is still in the store; nothing of such a file counts.
+        store.SetEmpty();
     } else if (RR::FILE_ReadSize(path) == 0) {
         RR::Log("[ZARN] Settings file empty\n");
     } else if (store(".ApplType") != CFG::ApplType) {

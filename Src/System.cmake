@@ -1,9 +1,3 @@
-set(system_sources)
-foreach(module Settings Globals GlobalsDisplay GlobalsLanguage Hourglass PrintIt)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
-    list(APPEND system_sources ${module}.cpp)
-  endif()
-endforeach()
-if(system_sources)
-  zarn_layer(system SOURCES ${system_sources} LINK link Qt6::Core)
-endif()
+zarn_layer(system
+  SOURCES Settings.cpp Globals.cpp GlobalsDisplay.cpp GlobalsLanguage.cpp Hourglass.cpp PrintIt.cpp
+  LINK link Qt6::Core)

@@ -1,9 +1,3 @@
-set(values_sources)
-foreach(module Types Conversions SLVersion BiC Config)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
-    list(APPEND values_sources ${module}.cpp)
-  endif()
-endforeach()
-if(values_sources)
-  zarn_layer(values SOURCES ${values_sources} LINK rrx Qt6::Core)
-endif()
+zarn_layer(values
+  SOURCES Types.cpp Conversions.cpp SLVersion.cpp BiC.cpp Config.cpp
+  LINK rrx Qt6::Core)
