@@ -2,12 +2,19 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <QCoreApplication>
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+using Application = QApplication;
+#else
+using Application = QCoreApplication;
+#endif
 
 namespace {
 
 /// Runs before the global objects of the program are built, which look for the board already.
 __attribute__((constructor(101))) void PlugBoard()
 {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     if (std::getenv("ZARN_BOARD")) {
         return;
     }
@@ -23,7 +30,7 @@ __attribute__((constructor(101))) void PlugBoard()
 int main(int argc, char** argv)
 {
     const std::string board = std::getenv("ZARN_BOARD");
-    QCoreApplication application(argc, argv);
+    Application application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();
     if (board.starts_with("/tmp/zarn-test-")) {

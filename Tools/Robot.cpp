@@ -1,0 +1,240 @@
+#include "Robot.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QListView>
+#include <QPixmap>
+#include <QTest>
+#include <QTimer>
+#include <QWidget>
+#include <atomic>
+#include <cstdio>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+constexpr useconds_t pollUs = 20000;
+
+std::function<int()>& PlannedScenario()
+{
+    static std::function<int()> planned;
+    return planned;
+}
+
+std::thread scenarioThread;
+std::atomic<int> exitStatus = 0;
+std::atomic<bool> scenarioEnded = false;
+
+/// `main` returns 0 whatever a scenario found; this hands its verdict to whoever started the program.
+void ReportExitStatus()
+{
+    if (exitStatus != 0) {
+        std::fflush(stdout);
+        _exit(exitStatus);
+    }
+}
+
+void StartScenario()
+{
+    if (!PlannedScenario()) {
+        return;
+    }
+    scenarioThread = std::thread([] {
+        exitStatus = PlannedScenario()();
+        QMetaObject::invokeMethod(qApp, [] {
+            QApplication::closeAllWindows();
+            QApplication::quit();
+        }, Qt::QueuedConnection);
+        scenarioEnded = true;
+    });
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] {
+        // A scenario that closed the program may still ask something of this thread.
+        while (!scenarioEnded) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        }
+        scenarioThread.join();
+    });
+}
+
+QWidget* TopWindow()
+{
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        return popup;
+    }
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            return window;
+        }
+    }
+    return nullptr;
+}
+
+QWidget* FindWidget(const char* objectName)
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() == QLatin1String(objectName) && widget->isVisible()
+            && (!modal || widget->window() == modal)) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+/// Clicks without waiting for what the click leads to, which may be a dialog.
+void ClickLater(QWidget* widget, const QPoint& place)
+{
+    QTimer::singleShot(0, widget, [widget, place] { QTest::mouseClick(widget, Qt::LeftButton, {}, place); });
+}
+
+}
+
+static void ArrangeScenario()
+{
+    std::atexit(ReportExitStatus);
+    QTimer::singleShot(0, StartScenario);
+}
+Q_COREAPP_STARTUP_FUNCTION(ArrangeScenario)
+
+namespace Robot {
+
+Scenario::Scenario(std::function<int()> scenario)
+{
+    PlannedScenario() = std::move(scenario);
+}
+
+void OnGui(const std::function<void()>& action)
+{
+    QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+}
+
+Running Start(const std::function<void()>& action)
+{
+    Running running;
+    running.ended = std::make_shared<std::atomic<bool>>(false);
+    QMetaObject::invokeMethod(qApp, [action, ended = running.ended] { action(); *ended = true; }, Qt::QueuedConnection);
+    return running;
+}
+
+bool Running::WaitForEnd(int limitMs) const
+{
+    return WaitFor([this] { return HasEnded(); }, limitMs);
+}
+
+bool WaitFor(const std::function<bool()>& condition, int limitMs)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (;;) {
+        bool holds = false;
+        OnGui([&] { holds = condition(); });
+        if (holds || elapsed.elapsed() > limitMs) {
+            return holds;
+        }
+        usleep(pollUs);
+    }
+}
+
+bool IsShown(const char* objectName)
+{
+    bool shown = false;
+    OnGui([&] { shown = FindWidget(objectName) != nullptr; });
+    return shown;
+}
+
+bool WaitForShown(const char* objectName, int limitMs)
+{
+    return WaitFor([&] { return FindWidget(objectName) != nullptr; }, limitMs);
+}
+
+bool WaitForGone(const char* objectName, int limitMs)
+{
+    return WaitFor([&] { return FindWidget(objectName) == nullptr; }, limitMs);
+}
+
+bool IsEnabled(const char* objectName)
+{
+    bool enabled = false;
+    OnGui([&] {
+        const QWidget* widget = FindWidget(objectName);
+        enabled = widget && widget->isEnabled();
+    });
+    return enabled;
+}
+
+bool Click(const char* objectName, int limitMs)
+{
+    return WaitFor([&] {
+        QWidget* widget = FindWidget(objectName);
+        if (!widget || !widget->isEnabled()) {
+            return false;
+        }
+        ClickLater(widget, widget->rect().center());
+        return true;
+    }, limitMs);
+}
+
+bool ClickRow(const char* listName, const QString& text)
+{
+    return WaitFor([&] {
+        QListView* list = qobject_cast<QListView*>(FindWidget(listName));
+        const QModelIndexList rows = list ? list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, text, 1, Qt::MatchExactly) : QModelIndexList();
+        if (rows.isEmpty()) {
+            return false;
+        }
+        list->scrollTo(rows.first());
+        ClickLater(list->viewport(), list->visualRect(rows.first()).center());
+        return true;
+    });
+}
+
+bool TypeOnScreen(const QString& text)
+{
+    for (const QChar letter : text) {
+        QByteArray key;
+        OnGui([&] {
+            if (letter == ' ') {
+                key = "button501";
+                return;
+            }
+            const QWidget* window = TopWindow();
+            for (const QAbstractButton* button : window ? window->findChildren<QAbstractButton*>() : QList<QAbstractButton*>()) {
+                if (button->text() == QString(letter) && button->isVisible()) {
+                    key = button->objectName().toLatin1();
+                }
+            }
+        });
+        if (key.isEmpty() || !Click(key)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+QString TextOf(const char* objectName)
+{
+    QString text;
+    OnGui([&] {
+        if (const QWidget* widget = FindWidget(objectName)) {
+            text = widget->property("text").toString();
+        }
+    });
+    return text;
+}
+
+bool TakePicture(const QString& file)
+{
+    bool saved = false;
+    OnGui([&] {
+        QWidget* window = TopWindow();
+        saved = window && window->grab().save(file);
+    });
+    return saved;
+}
+
+}

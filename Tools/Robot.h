@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <atomic>
+#include <functional>
+#include <memory>
+
+/// Operates the running program as a finger would: by widgets on the screen, found by object name.
+/// A scenario runs on a thread of its own, so that it can follow into modal dialogs; each function below does its
+/// work on the event loop's thread. Where a modal dialog is open, only its widgets can be found.
+namespace Robot {
+
+/// Runs `scenario` once the event loop of the application runs. Made before `main`, as a static object.
+/// A result other than 0 becomes the exit status of the program. When the scenario ends, so does the program.
+struct Scenario {
+    explicit Scenario(std::function<int()> scenario);
+};
+
+/// Runs `action` on the event loop's thread and waits for its end. It must not open a modal dialog.
+void OnGui(const std::function<void()>& action);
+
+/// Something that was started on the event loop's thread and may run a modal dialog.
+class Running {
+public:
+    bool HasEnded() const { return ended && *ended; }
+    /// False if it hasn't ended within `limitMs`.
+    bool WaitForEnd(int limitMs = 5000) const;
+
+private:
+    friend Running Start(const std::function<void()>& action);
+    std::shared_ptr<std::atomic<bool>> ended;
+};
+Running Start(const std::function<void()>& action);
+
+/// Waits until `condition`, asked on the event loop's thread, holds; false if it doesn't within `limitMs`.
+bool WaitFor(const std::function<bool()>& condition, int limitMs = 5000);
+
+/// A widget of that name is on the screen and not behind a modal dialog.
+bool IsShown(const char* objectName);
+bool WaitForShown(const char* objectName, int limitMs = 5000);
+bool WaitForGone(const char* objectName, int limitMs = 5000);
+bool IsEnabled(const char* objectName);
+
+/// Waits until the widget is shown and enabled, and clicks its middle. False if that doesn't come within `limitMs`.
+bool Click(const char* objectName, int limitMs = 5000);
+/// Clicks the row of that text in a list.
+bool ClickRow(const char* listName, const QString& text);
+/// Presses the keys of the on-screen keyboard whose captions make up `text`.
+bool TypeOnScreen(const QString& text);
+
+/// The text that a label, button or line shows, empty if it isn't shown.
+QString TextOf(const char* objectName);
+
+/// Writes what the topmost window shows to a PNG file.
+bool TakePicture(const QString& file);
+
+}
