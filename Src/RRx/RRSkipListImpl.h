@@ -260,10 +260,8 @@ void SkipList<Key, Data>::MakeBase()
     if (base != nullptr) {
         return;
     }
+    // The head is in place when its links are set to it.
     CreateRawElement(base, TOP_LEVEL);
-    base->next = base;
-    base->prev = base;
-    base->retro = base;
     for (int i = 0; i < TOP_LEVEL; ++i) {
         base->skipTower[i] = nullptr;
     }

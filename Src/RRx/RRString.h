@@ -108,8 +108,8 @@ public:
     static String PrintHex(UInt64 val);
 
     /// Integers, with blanks (spaces, tabs) around them, decimal or, unsigned by a sign, hexadecimal behind "0x".
-    /// On failure `val` is 0, `INVALID` for `SInt32`. An overflow is seen by the value's becoming smaller, so some
-    /// numbers of far too many digits pass with their low 32 bits.
+    /// On failure `val` is 0, `INVALID` for `SInt32`. An overflow is seen only where a further digit makes the value
+    /// smaller; other numbers above 32 bits pass with their low 32 bits.
     static bool Parse(const char* str, UInt32& val);
     static bool Parse(const char* str, SInt32& val);
     static bool Parse(const char* str, UInt16& val);

@@ -1,0 +1,1 @@
+zarn_fuzz(numbers SOURCES FuzzNumbers.cpp LINK rrx)
