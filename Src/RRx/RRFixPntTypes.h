@@ -22,6 +22,7 @@ public:
 
     constexpr FixPntOf(const FixPntOf&) = default;
     constexpr FixPntOf& operator=(const FixPntOf&) = default;
+    // Written out: GCC 12 doesn't define the implied one in time for constant expressions.
     constexpr ~FixPntOf() override { }
 
     /// Holds exactly `raw`, unscaled.
