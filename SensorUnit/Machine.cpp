@@ -11,7 +11,7 @@ namespace {
 constexpr double hoseLitres = 0.02;
 constexpr double couplingLitres = 0.025;
 constexpr double bottleLitres = 10;
-constexpr double hottest = 120;
+constexpr double hottest = 100; ///< above what it should be, °C
 
 }
 
@@ -31,7 +31,7 @@ void Machine::Advance(double seconds)
         compressorSeconds = std::min(compressorSeconds + seconds, double(UINT32_MAX));
     }
     volts = std::max(0.0, volts - faults.batteryDrain * seconds / 60);
-    celsius = std::min(hottest, celsius + faults.heating * seconds / 60);
+    heated = faults.heating > 0 ? std::min(hottest, heated + faults.heating * seconds / 60) : 0;
 }
 
 void Machine::SetValve(Way way, bool on)
@@ -73,6 +73,9 @@ void Machine::Apply()
     }
     path.SetWetSensorPath(faults.wetDewPoint ? WaterOf(*faults.wetDewPoint) : 0);
     path.SetFilter(filter);
+    if (faults.batteryDrain > 0) {
+        supply = SUPPLY_BATTERY;
+    }
 }
 
 void Machine::Flush()

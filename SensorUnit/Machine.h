@@ -10,7 +10,7 @@
 
 namespace SensorUnit {
 
-enum Supply { SUPPLY_BATTERY, SUPPLY_CHARGING, SUPPLY_CHARGED };
+enum Supply { SUPPLY_BATTERY, SUPPLY_CHARGING, SUPPLY_CHARGED, SUPPLY_UNKNOWN };
 enum PortUse { PORT_CAPPED, PORT_CONNECTED };
 
 /// The hardware around the controller: gas path with its actuators, sensors, supply, clock, counters. It
@@ -57,10 +57,13 @@ public:
     bool voltsKnown = true;
     bool powerKey = false;
     double celsius = 23, relHumidity = 45;
+    double heated = 0; ///< °C by which the board is hotter than it should be
     std::uint16_t pumpBacks = 12;
     double compressorSeconds = 18360;
     std::int64_t clockOffset = 0; ///< seconds by which the clock was set against the wall clock
     std::function<std::int64_t()> wallClock;
+
+    std::uint8_t boardType = 0x11;
 
     PortUse port1 = PORT_CONNECTED, port2 = PORT_CAPPED, port3 = PORT_CAPPED;
     double compartmentBar = 5, compartmentLitres = 50;

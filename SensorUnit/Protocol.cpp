@@ -80,11 +80,10 @@ std::string FormatResponse(const Request& request, const std::uint8_t* data)
     return line + '\r';
 }
 
-std::string Printable(std::string_view line)
+std::string Printable(std::string_view line, std::size_t most)
 {
-    constexpr std::size_t shown = 80;
     std::string text;
-    for (const char c : line.substr(0, shown)) {
+    for (const char c : line.substr(0, most)) {
         if (c >= 0x20 && c < 0x7F && c != '\\') {
             text += c;
         } else {
@@ -93,7 +92,7 @@ std::string Printable(std::string_view line)
             text += escaped;
         }
     }
-    return line.size() > shown ? text + "..." : text;
+    return line.size() > most ? text + "..." : text;
 }
 
 }

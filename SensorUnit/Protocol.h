@@ -31,7 +31,7 @@ std::optional<Request> ParseRequest(std::string_view line);
 /// The response line that answers `request`, ended by CR. A read carries `request.count` bytes of `data`.
 std::string FormatResponse(const Request& request, const std::uint8_t* data);
 
-/// `line` with everything that isn't printable ASCII as \xNN, cut to a length that suits a log.
-std::string Printable(std::string_view line);
+/// The first `most` characters of `line`, with everything that isn't printable ASCII as \xNN.
+std::string Printable(std::string_view line, std::size_t most = 80);
 
 }

@@ -39,6 +39,7 @@ constexpr ServiceEntry services[SERVICE_NUM] = {
 constexpr std::uint8_t goCommand = 0x5E;
 constexpr std::uint8_t failing = 2; ///< how a valve, the compressor or a fan reads that doesn't obey
 constexpr std::uint8_t unplugged = 0x80;
+constexpr double hottestReading = 127; ///< °C in a signed byte
 
 void Append(Bytes& bytes, std::uint32_t value, int width)
 {
@@ -89,7 +90,7 @@ Bytes ReadClimate(const Machine& machine)
     if (machine.faults.climateFailing) {
         return {0x80, 0xFF, 0xFF, 0xFF};
     }
-    Bytes bytes{std::uint8_t(std::lround(machine.celsius)), std::uint8_t(std::lround(machine.relHumidity))};
+    Bytes bytes{std::uint8_t(std::lround(std::min(machine.celsius + machine.heated, hottestReading))), std::uint8_t(std::lround(machine.relHumidity))};
     Append(bytes, std::uint32_t(machine.AirPressureHPa()), 2);
     return bytes;
 }

@@ -34,7 +34,7 @@ constexpr Model models[SENSOR_NUM] = {
 };
 
 constexpr std::uint8_t notFitted = 0x80;
-constexpr double pressureNoiseBar = 0.0004;
+constexpr double pressureNoiseBar = 0.0008;
 constexpr double noiseInterval = 0.25; ///< seconds
 
 void PutWord(Profile& profile, std::size_t offset, int value)

@@ -107,6 +107,10 @@ bool TakeLine(const std::string& key, std::istringstream& from, Machine& machine
         machine.compressorSeconds = v[1];
         return true;
     }
+    if (key == "board" && Numbers(from, v, 1, 0, UINT8_MAX)) {
+        machine.boardType = std::uint8_t(v[0]);
+        return true;
+    }
     if (key == "clock" && Numbers(from, v, 1, -1e12, 1e12)) {
         machine.clockOffset = std::int64_t(v[0]);
         return true;
@@ -139,6 +143,7 @@ std::string Compose(const Machine& machine, const Loader& loader)
     text.imbue(std::locale::classic());
     text.precision(12);
     text << "storings = " << machine.pumpBacks << ' ' << machine.compressorSeconds << '\n';
+    text << "board = " << int(machine.boardType) << '\n';
     text << "clock = " << machine.clockOffset << '\n';
     for (int sensor = 0; sensor < SENSOR_NUM; sensor++) {
         text << "sensor = " << sensor << ' ' << Hex(machine.sensors.ProfileOf(Sensor(sensor))) << '\n';

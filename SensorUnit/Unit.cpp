@@ -47,7 +47,8 @@ Unit::~Unit()
 
 void Unit::StartImage()
 {
-    mode = loader.Application(boardType) ? MODE_APPLICATION : MODE_LOADER;
+    running = loader.Application(machine.boardType);
+    mode = running ? MODE_APPLICATION : MODE_LOADER;
     Log("starts in the %s", mode == MODE_APPLICATION ? "application" : "program loader");
 }
 
@@ -138,11 +139,10 @@ void Unit::Handle(const std::string& text, Micros now)
 
 std::vector<std::uint8_t> Unit::DeviceInfo() const
 {
-    const std::optional<ImageInfo> image = loader.Application(boardType);
-    if (mode == MODE_APPLICATION && image) {
-        return {image->type, image->version, boardType, boardVersion};
+    if (mode == MODE_APPLICATION && running) {
+        return {running->type, running->version, machine.boardType, boardVersion};
     }
-    return {loaderType, loaderVersion, boardType, boardVersion};
+    return {loaderType, loaderVersion, machine.boardType, boardVersion};
 }
 
 std::optional<std::string> Unit::Serve(const Request& request, Micros now)

@@ -54,7 +54,6 @@ public:
     Line line;
     Machine machine;
     Loader loader;
-    std::uint8_t boardType = 0x11;
 
 private:
     void Handle(const std::string& text, Micros now);
@@ -66,6 +65,7 @@ private:
 
     Registers registers;
     Mode mode = MODE_OFF;
+    std::optional<ImageInfo> running; ///< the application, as it was when it started
     std::string stateFile;
     Micros machineTime{0};
     Micros silentUntil{0};

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <fcntl.h>
@@ -21,12 +22,15 @@ using namespace SensorUnit;
 constexpr const char* usage =
     "zarn-unit --link PATH [--state FILE] [--control PATH] [--fast] [-- COMMAND ...]\n"
     "zarn-unit ctl PATH WORD...\n"
+    "zarn-unit image MAJOR MINOR\n"
     "\n"
     "  --link PATH     the serial line: a link to a pseudo terminal that the unit serves\n"
     "  --state FILE    keeps what outlives a power cycle; without it each start is a new unit\n"
     "  --control PATH  listens for control commands; \"zarn-unit ctl PATH help\" lists them\n"
     "  --fast          answers at once instead of at the pace of 57600 baud\n"
-    "  COMMAND ...     is run when the line is ready; the unit ends with it and returns its result\n";
+    "  COMMAND ...     is run when the line is ready; the unit ends with it and returns its result\n"
+    "  ctl             sends one command to a running unit and prints its answer\n"
+    "  image           writes a program image of that version to the standard output\n";
 
 struct Options {
     std::string link, state, control;
@@ -159,6 +163,19 @@ int Run(Unit& unit, Control& control, Companion& companion, const std::chrono::s
     }
 }
 
+/// The delivered image comes from here, so that a unit runs what the program gives it.
+int WriteImage(int major, int minor)
+{
+    if (major < 0 || major > 15 || minor < 0 || minor > 15) {
+        std::fputs("a version has two numbers from 0 to 15\n", stderr);
+        return 2;
+    }
+    ImageInfo info;
+    info.version = std::uint8_t(major << 4 | minor);
+    const std::vector<std::uint8_t> image = MakeImage(info);
+    return std::fwrite(image.data(), 1, image.size(), stdout) == image.size() && std::fflush(stdout) == 0 ? 0 : 1;
+}
+
 }
 
 int main(int argc, char** argv)
@@ -169,6 +186,9 @@ int main(int argc, char** argv)
             command += std::string(" ") + argv[i];
         }
         return RunControlClient(argv[2], command);
+    }
+    if (argc == 4 && std::strcmp(argv[1], "image") == 0) {
+        return WriteImage(std::atoi(argv[2]), std::atoi(argv[3]));
     }
     Options options;
     if (!ReadOptions(argc, argv, options)) {
