@@ -41,7 +41,6 @@ TEST_P(Jobs, StopAsTheGasPathDemands)
         rig.machine.Apply();
         EXPECT_EQ(rig.Run(row.jobs[i]), row.causes.substr(4 * i, 3)) << row.jobs[i] << " after " << rig.ticks;
         EXPECT_LE(rig.ticks, row.mostTicks) << row.jobs[i];
-        std::printf("%s %c %d\n", row.name, row.jobs[i], rig.ticks);
     }
 }
 
