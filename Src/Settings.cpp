@@ -145,7 +145,11 @@ void Settings::Load()
         store.SetEmpty();
     }
 
-    ForEachField([&](const auto& field) { BiC(store(field.key), this->*field.member, def.*field.member); });
+    ForEachField([&](const auto& field) {
+        if (store.Has(field.key)) {
+            BiC(store(field.key), this->*field.member, def.*field.member);
+        }
+    });
 }
 
 void Settings::Save()

@@ -1,0 +1,130 @@
+#include "PrintIt.h"
+
+#include "Conversions.h"
+#include "Settings.h"
+
+#include <gtest/gtest.h>
+
+using RR::FixPnt0;
+using RR::FixPnt1;
+using RR::FixPnt3;
+using RR::INVALID;
+
+namespace {
+
+class PrintIt : public testing::Test {
+protected:
+    void SetUp() override { settings = Settings::def; }
+};
+
+}
+
+TEST_F(PrintIt, ANumberGivesUpDecimalsUntilItFits)
+{
+    const struct {
+        FixPnt3 value;
+        int max;
+        const char* text;
+    } rows[] = {
+        {1.234, 5, "1.234"},   {12.345, 5, "12.35"},  {123.456, 5, "123.5"}, {1234.56, 5, "1235"}, {123456.0, 5, "-----"},
+        {-0.001, 5, "0.000"},  {-0.005, 5, "-0.01"},  {-0.01, 5, "-0.01"},   {-0.01, 4, "0.00"},   {-0.049, 4, "-0.1"},
+        {-0.044, 4, "0.00"},   {-0.001, 6, "-0.001"}, {-0.3, 3, "0.0"},      {-0.6, 3, "-1"},      {99.96, 3, "100"},
+        {99.96, 2, "--"},      {9999.9, 4, "----"},   {INVALID, 5, "-----"}, {INVALID, 0, ""},
+    };
+    for (const auto& [value, max, text] : rows) {
+        EXPECT_EQ(PrintNum(value, max), text) << value.ToDouble() << ", " << max;
+    }
+    EXPECT_EQ(PrintNum(FixPnt1(-0.4), 3), "0.0");
+    EXPECT_EQ(PrintNum(FixPnt1(-0.4), 4), "-0.4");
+    EXPECT_EQ(PrintNum(FixPnt1(99.9), 3), "100");
+    EXPECT_EQ(PrintNum(FixPnt0(-999), 3), "---");
+    EXPECT_EQ(PrintNum(FixPnt1(INVALID), 3), "---");
+    EXPECT_EQ(PrintNum(FixPnt1(20.5)), "20.5");
+    EXPECT_EQ(PrintNum(FixPnt3(INVALID)), "---");
+    EXPECT_EQ(PrintNum(-12), "-12");
+    EXPECT_EQ(PrintNum(INVALID), "---");
+}
+
+TEST_F(PrintIt, AmountsCarryTheirUnit)
+{
+    for (const auto& [value, text] : {std::pair{FixPnt1(100.0), "100.0 Vol.-%"}, {100.1, ">100 Vol.-%"},
+                                      {-0.1, "< 0 Vol.-%"}, {0.0, "0.0 Vol.-%"}, {INVALID, "--- Vol.-%"}}) {
+        EXPECT_EQ(PrintAmountSF6(value, true), text);
+    }
+    for (const auto print : {PrintAmountSO2, PrintAmountHF, PrintAmountCO, PrintAmountH2S}) {
+        EXPECT_EQ(print(1.25, false), "1.3 ppmv");
+        EXPECT_EQ(print(-3.0, true), "-3.0 ppm<sub>v</sub>");
+        EXPECT_EQ(print(INVALID, false), "------ ppmv");
+    }
+}
+
+TEST_F(PrintIt, ReadingsFollowTheUnitChosen)
+{
+    const Pressure air = ConvBarToPressure(1.013);
+    const Pressure high = ConvBarToPressure(33.0);
+    for (const auto& [unit, low, top, none] :
+         {std::tuple{Pressure::BAR, "1.013 bar", "33.00 bar", "----- bar"}, {Pressure::KPA, "101.3 kPa", "3300 kPa", "----- kPa"},
+          {Pressure::PSI, "14.69 psi", "478.6 psi", "----- psi"}, {Pressure::MPA, "0.101 MPa", "3.300 MPa", "----- MPa"}}) {
+        settings.unitPressure = unit;
+        EXPECT_EQ(PrintPressure(air), low);
+        EXPECT_EQ(PrintPressure(high), top);
+        EXPECT_EQ(PrintPressure(Pressure()), none);
+    }
+
+    Humidity humidity(-36.4, -33.5, 123.4, 15.2);
+    humidity[Humidity::CELSPR] = -12;
+    for (const auto& [unit, plain, nice] :
+         {std::tuple{Humidity::CELS, "-36 °C", "-36 °C"}, {Humidity::FAHR, "-34 °F", "-34 °F"},
+          {Humidity::PPMV, "123 ppmv", "123 ppm<sub>v</sub>"}, {Humidity::PPMW, "15 ppmw", "15 ppm<sub>w</sub>"},
+          {Humidity::CELSPR, "-12 °C [Pr]", "-12 °C<sub>[Pr]</sub>"},
+          {Humidity::FAHRPR, "------- °F [Pr]", "------- °F<sub>[Pr]</sub>"}}) {
+        settings.unitHumidity = unit;
+        EXPECT_EQ(PrintHumidity(humidity, false), plain);
+        EXPECT_EQ(PrintHumidity(humidity, true), nice);
+    }
+
+    for (const auto& [value, text] : {std::pair{23, "23°C"}, {99, "99°C"}, {100, "> 99°C"}, {-99, "-99°C"},
+                                      {-100, "<-99°C"}, {INVALID, "××°C"}}) {
+        EXPECT_EQ(PrintTemperature(Temperature(value, 0)), text);
+    }
+    settings.unitTemperature = Temperature::FAHR;
+    EXPECT_EQ(PrintTemperature(Temperature(23, 73)), "73°F");
+    EXPECT_DEATH(PrintPressureUnit(Pressure::NUM), "false");
+    EXPECT_DEATH(PrintHumidityUnit(Humidity::NUM, true), "false");
+}
+
+TEST_F(PrintIt, TheCompartmentPressureStopsAtTheRangeOfItsSensor)
+{
+    TavorDev::SensorProfile profile;
+    profile.rangeMax = 16;
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(1.0), profile), "n.v.") << "no such sensor";
+    profile.type = TavorDev::SENSOR_P6;
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(15.999), profile), "16.00 bar");
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(16.0), profile), "> 16.0 bar");
+    EXPECT_EQ(PrintPressureComp(Pressure(), profile), "----- bar");
+    settings.unitPressure = Pressure::KPA;
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(17.0), profile), "> 1600 kPa");
+    settings.unitPressure = Pressure::PSI;
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(17.0), profile), "> 232 psi");
+    profile.rangeMax = INVALID;
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(1.0), profile), "> ---- psi");
+}
+
+TEST_F(PrintIt, DatesAndTimesFollowTheLanguage)
+{
+    const struct {
+        const char* language;
+        const char *date, *time, *day;
+    } rows[] = {{"DE", "31.01.24", "21:05", "Mi."}, {"US", "1/31/24", "9:05 PM", "Wed"}, {"JP", "2024/01/31", "21:05", "水"}};
+    for (const auto& row : rows) {
+        settings.applLanguage = row.language;
+        EXPECT_EQ(PrintDate(RR::Date(31, 1, 2024)), row.date);
+        EXPECT_EQ(PrintTime(RR::Time(21, 5, 9), false), row.time);
+        EXPECT_TRUE(PrintTime(RR::Time(21, 5, 9), true).contains("09"));
+        EXPECT_EQ(PrintDayName(RR::Date::WED), row.day);
+    }
+    EXPECT_EQ(PrintDate(RR::Date()), "--.--.--");
+    EXPECT_EQ(PrintTime(RR::Time(), true), "--:--:--");
+    EXPECT_EQ(PrintTime(RR::Time(), false), "--:--");
+    EXPECT_EQ(PrintDayName(RR::Date::NON), "××");
+}
