@@ -1,9 +1,3 @@
-set(records_sources)
-foreach(module Mea)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
-    list(APPEND records_sources ${module}.cpp)
-  endif()
-endforeach()
-if(records_sources)
-  zarn_layer(records SOURCES ${records_sources} LINK system)
-endif()
+zarn_layer(records
+  SOURCES Mea.cpp MeaFile.cpp MeaExport.cpp
+  LINK system)
