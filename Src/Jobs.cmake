@@ -1,9 +1,5 @@
-set(jobs_sources)
-foreach(module JobStateMachine JobTables JobsMeasurement JobsTransfer JobsService)
-  if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${module}.cpp)
-    list(APPEND jobs_sources ${module}.cpp)
-  endif()
-endforeach()
-if(jobs_sources)
-  zarn_layer(jobs SOURCES ${jobs_sources} LINK records)
+if(TARGET records)
+  zarn_layer(jobs
+    SOURCES JobStateMachine.cpp JobChecks.cpp JobTables.cpp JobsMeasurement.cpp JobsTransfer.cpp JobsService.cpp
+    LINK records)
 endif()
