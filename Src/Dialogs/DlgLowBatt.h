@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+#include <memory>
+
+class Ui_DlgLowBatt;
+
+/// Tells that the battery is empty.
+class DlgLowBatt : public QDialog {
+    Q_OBJECT
+
+public:
+    /// The dialog closes itself after so many seconds.
+    enum TimeoutOpt {
+        UNUSED = 0,
+        CLOSE_5 = 5,
+        CLOSE_10 = 10,
+        CLOSE_20 = 20,
+        CLOSE_40 = 40,
+        CLOSE_60 = 60,
+        CLOSE_80 = 80,
+        CLOSE_300 = 300,
+        CLOSE_600 = 600
+    };
+
+    /// `text` is translated, and may be rich text.
+    static void Show(const QString& text, TimeoutOpt toOpt, bool alignCenter);
+
+private:
+    DlgLowBatt(const QString& text, TimeoutOpt toOpt, bool alignCenter);
+    ~DlgLowBatt() override;
+
+    std::unique_ptr<Ui_DlgLowBatt> ui;
+    QTimer timer;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+class QDialog;
+class QLabel;
+class QScrollArea;
+class QString;
+class QWidget;
+
+/// What all dialogs have in common.
+namespace DlgShared {
+
+/// The main window, above which every dialog stands; null when there is none.
+QWidget* Parent();
+
+/// Moves the dialog to the middle of its screen, by its present size.
+void Center(QDialog& dialog);
+
+// Both fit a dialog to its text, which is measured as it is written, tags and all. `area` shows `body`; where the
+// text as shown needs more room than was measured, the area takes it from the spacers around it, and scrolls what
+// is still lacking. No dialog grows beyond its screen.
+
+/// Fits the height alone. To be called with the dialog in the size of its form.
+void FitHeight(QDialog& dialog, QScrollArea& area, QLabel& body, const QString& text);
+/// Fits both: `extraHeight` are the pixels that the dialog needs beside one block of text; each further line of
+/// the text adds a third of the font's height. Gives `body` the text, with its line breaks as paragraphs.
+void FitSize(QDialog& dialog, QScrollArea& area, QLabel& body, const QString& text, int extraHeight);
+
+}
