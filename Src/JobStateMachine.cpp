@@ -407,9 +407,6 @@ bool JobStateMachine::IsCounterZero() const
 
 void JobStateMachine::RecordMeasurement()
 {
-    if (!IsRunning()) {
-        return;
-    }
     Log("[ZARN]       Record Measurement\n");
     mea.Snapshot(static_cast<char>(type));
 }

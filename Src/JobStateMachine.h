@@ -156,6 +156,7 @@ private:
     void SetCounter(RR::SInt32 c);
     void DecCounter();
     bool IsCounterZero() const;
+    /// Takes what the sensors show now, whatever the state.
     void RecordMeasurement();
     void StopIf(bool condition, StopCause cause);
     /// The answer to a condition that has the supervision time to become true; its end stops the job.

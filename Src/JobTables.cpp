@@ -5,11 +5,9 @@ namespace CFG {
 
 using RR::FixPnt3;
 
+// Filled in at the start of the job; entry 4 of JB_p has no use.
 static constexpr int runTime = RR::INVALID;
 static constexpr FixPnt3 runTimeBar(RR::INVALID);
-
-// Where the gas path is taken to be free of pressure, the highest pressure in it; bar, absolute.
-static constexpr FixPnt3 released(1.2);
 
 const int JB_t[10] = {0, 1, 3, 1, runTime, 3, runTime, 1, 10, 1};
 const int JC_t[10] = {0, 1, 3, 1, runTime, 3, runTime, 1, 10, 1};
@@ -26,16 +24,16 @@ const int JR_t[15] = {0, 1, 50, 10, 30, 2, 3, 2, 50, 5, 5, 3, 1, 15, 2};
 
 const FixPnt3 JB_p[8] = {0, 1.5, 0.02, runTimeBar, runTimeBar, 1.15, runTimeBar, runTimeBar};
 const FixPnt3 JC_p[7] = {0, 1.5, 0.02, runTimeBar, 1.15, runTimeBar, runTimeBar};
-const FixPnt3 JD_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.06, released};
-const FixPnt3 JE_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.06, released};
+const FixPnt3 JD_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.06, 1.2};
+const FixPnt3 JE_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.06, 1.2};
 const FixPnt3 JF_p[3] = {0, 1.5, runTimeBar};
-const FixPnt3 JH_p[3] = {0, 7, released};
-const FixPnt3 JJ_p[3] = {0, 9, released};
-const FixPnt3 JK_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.16, released};
-const FixPnt3 JL_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.16, released};
-const FixPnt3 JP_p[3] = {0, released, 8};
-const FixPnt3 JQ_p[7] = {0, released, 8, 0.19, 0.21, 7.3, released};
-const FixPnt3 JR_p[6] = {0, released, 8, -0.02, 8, 0.85};
+const FixPnt3 JH_p[3] = {0, 7, 1.2};
+const FixPnt3 JJ_p[3] = {0, 9, 1.2};
+const FixPnt3 JK_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.16, 1.2};
+const FixPnt3 JL_p[4] = {0, MeaPumpBackLimit[Pressure::BAR], -0.16, 1.2};
+const FixPnt3 JP_p[3] = {0, 1.2, 8};
+const FixPnt3 JQ_p[7] = {0, 1.2, 8, 0.19, 0.21, 7.3, 1.2};
+const FixPnt3 JR_p[6] = {0, 1.2, 8, -0.02, 8, 0.85};
 
 const FixPnt3 JJ_f[3] = {0, -35, -20};
 const FixPnt3 JJ_o[2] = {0, 10};

@@ -1,5 +1,3 @@
-if(TARGET records)
-  zarn_layer(jobs
-    SOURCES JobStateMachine.cpp JobChecks.cpp JobTables.cpp JobsMeasurement.cpp JobsTransfer.cpp JobsService.cpp
-    LINK records)
-endif()
+zarn_layer(jobs
+  SOURCES JobStateMachine.cpp JobChecks.cpp JobTables.cpp JobsMeasurement.cpp JobsTransfer.cpp JobsService.cpp
+  LINK records)
