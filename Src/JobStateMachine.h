@@ -1,5 +1,6 @@
 #pragma once
 
+// Qt first: behind the standard headers that the others bring in, moc 6.4 stumbles over <concepts>.
 #include <QObject>
 #include <QString>
 #include <QTimer>
