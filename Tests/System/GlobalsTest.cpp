@@ -15,17 +15,22 @@ using RR::FixPnt3;
 using RR::SInt32;
 using testing::HasSubstr;
 
+/// Stands for the main window: counts the changes of language that it is told.
+class WndMain : public QObject {
+public:
+    bool event(QEvent* event) override
+    {
+        languageChanges += event->type() == QEvent::LanguageChange;
+        return QObject::event(event);
+    }
+    int languageChanges = 0;
+};
+
 WndMain* wndMain = nullptr;
 
 QObject* WndMainObject()
 {
     return wndMain;
-}
-
-bool WndMain::event(QEvent* event)
-{
-    languageChanges += event->type() == QEvent::LanguageChange;
-    return QObject::event(event);
 }
 
 TEST(SystemServices, TheClockIsSetInUniversalTime)
@@ -100,19 +105,16 @@ TEST(SystemServices, ALanguageComesAndGoesWithItsTexts)
 {
     WndMain window;
     wndMain = &window;
-    const auto changes = [&] {
-        QCoreApplication::processEvents();
-        return std::exchange(window.languageChanges, 0);
-    };
     settings.applLanguage = "DE";
     EXPECT_TRUE(SelectLanguage("FR"));
     EXPECT_EQ(settings.applLanguage, LangCC("FR"));
     EXPECT_EQ(PrintPressureComp(Pressure(), {}), "n.d.");
-    EXPECT_EQ(changes(), 0) << "the toolkit tells windows by itself";
-
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.languageChanges, 0) << "the toolkit tells windows by itself";
     EXPECT_EQ(LogOf([] { EXPECT_TRUE(SelectLanguage("DE")); }), "[ZARN] Language set: German\n");
     EXPECT_EQ(PrintPressureComp(Pressure(), {}), "n.v.");
-    EXPECT_EQ(changes(), 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.languageChanges, 1);
     wndMain = nullptr;
 
     EXPECT_EQ(LogOf([] { EXPECT_FALSE(SelectLanguage("XX")); }), "[Application] Invalid translation \"transXX.qm\"\n");

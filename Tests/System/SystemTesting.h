@@ -2,20 +2,12 @@
 
 #include "Board/Board.h"
 
-#include <QObject>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
-
-/// Stands for the main window: counts the changes of language that it is told.
-class WndMain : public QObject {
-public:
-    bool event(QEvent* event) override;
-    int languageChanges = 0;
-};
 
 inline std::filesystem::path OnBoard(const char* path)
 {

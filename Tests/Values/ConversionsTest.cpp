@@ -15,11 +15,11 @@ TEST(Conversions, EveryWayBetweenTwoUnitsLeadsBackAndPassesNoValueOn)
         Conv there, back;
         double from, to;
     } rows[] = {
-        {ConvBarToKPa, ConvKPaToBar, 1.013, 101.3},       {ConvBarToPsi, ConvPsiToBar, 1.013, 14.692323},
-        {ConvBarToMPa, ConvMPaToBar, 1.013, 0.1013},      {ConvKPaToPsi, ConvPsiToKPa, 101.3, 14.692323},
-        {ConvKPaToMPa, ConvMPaToKPa, 101.3, 0.1013},      {ConvPsiToMPa, ConvMPaToPsi, 14.692323, 0.1013},
-        {ConvPPMvToPPMw, ConvPPMwToPPMv, 1000.0, 123.288}, {ConvCelsToFahr, ConvFahrToCels, -40.0, -40.0},
-        {ConvCelsToFahr, ConvFahrToCels, 36.5, 97.7},      {ConvFahrDPToPPMv, ConvPPMvToFahrDP, 32.0, 6033.56},
+        {ConvBarToKPa, ConvKPaToBar, 1.013, 101.3},         {ConvBarToPsi, ConvPsiToBar, 1.013, 14.692323},
+        {ConvBarToMPa, ConvMPaToBar, 1.013, 0.1013},        {ConvKPaToPsi, ConvPsiToKPa, 101.3, 14.692323},
+        {ConvKPaToMPa, ConvMPaToKPa, 101.3, 0.1013},        {ConvPsiToMPa, ConvMPaToPsi, 14.692323, 0.1013},
+        {ConvPPMvToPPMw, ConvPPMwToPPMv, 1000.0, 123.288},  {ConvCelsToFahr, ConvFahrToCels, -40.0, -40.0},
+        {ConvCelsToFahr, ConvFahrToCels, 36.5, 97.7},       {ConvFahrDPToPPMv, ConvPPMvToFahrDP, 32.0, 6033.56},
         {ConvCelsDPToPPMw, ConvPPMwToCelsDP, 0.0, 743.865}, {ConvFahrDPToPPMw, ConvPPMwToFahrDP, 32.0, 743.865},
     };
     for (const auto& row : rows) {
@@ -32,12 +32,8 @@ TEST(Conversions, EveryWayBetweenTwoUnitsLeadsBackAndPassesNoValueOn)
 
 TEST(Conversions, DewPointsComeBackFromTheirWaterContent)
 {
-    double before = 0.0;
     for (double t = -80.0; t < 45.0; t += 0.5) {
-        const double ppmv = ConvCelsDPToPPMv(t);
-        EXPECT_NEAR(ConvPPMvToCelsDP(ppmv), t, 1e-6);
-        EXPECT_GT(ppmv, before) << t;
-        before = ppmv;
+        EXPECT_NEAR(ConvPPMvToCelsDP(ConvCelsDPToPPMv(t)), t, 1e-6);
     }
     EXPECT_NEAR(ConvCelsDPToPPMv(-20.0), 1032.6 / 1.013, 1.0) << "1.0326 hPa over ice";
     EXPECT_NEAR(ConvCelsDPToPPMv(20.0), 23370.0 / 1.013, 60.0) << "23.37 hPa over water";
@@ -49,9 +45,10 @@ TEST(Conversions, WhatLiesOutsideARangeHasNoValue)
         double (*conv)(double);
         double inside, outside;
     } rows[] = {
-        {ConvCelsToFahr, -999.9, -1000.0},   {ConvCelsToFahr, 999999.9, 1000000.0}, {ConvFahrToCels, -1767.0, -1767.1},
-        {ConvFahrToCels, 1800031.0, 1800032.0}, {ConvCelsDPToPPMv, -80.0, -80.1}, {ConvCelsDPToPPMv, 45.0, 45.1},
-        {ConvPPMvToCelsDP, 0.5, 0.49},       {ConvPPMvToCelsDP, 94000.0, 94000.1},
+        {ConvCelsToFahr, -999.9, -1000.0},    {ConvCelsToFahr, 999999.9, 1000000.0},
+        {ConvFahrToCels, -1767.0, -1767.1},   {ConvFahrToCels, 1800031.0, 1800032.0},
+        {ConvCelsDPToPPMv, -80.0, -80.1},     {ConvCelsDPToPPMv, 45.0, 45.1},
+        {ConvPPMvToCelsDP, 0.5, 0.49},        {ConvPPMvToCelsDP, 94000.0, 94000.1},
     };
     for (const auto& row : rows) {
         EXPECT_NE(row.conv(row.inside), INVALID_DOUBLE) << row.inside;
@@ -77,25 +74,12 @@ TEST(Conversions, ThePressurizedDewPointRisesWithThePressure)
 
 TEST(Conversions, AReadingIsValidInAllUnitsOrInNone)
 {
-    const Pressure pressure = ConvBarToPressure(FixPnt3(1.013));
-    EXPECT_EQ(pressure[Pressure::KPA].Eject(), 101300);
-    EXPECT_EQ(pressure[Pressure::PSI].Eject(), 14692);
-    EXPECT_EQ(pressure[Pressure::MPA].Eject(), 101);
     const Pressure none = ConvBarToPressure(FixPnt3(RR::INVALID));
     for (const auto unit : {Pressure::BAR, Pressure::KPA, Pressure::PSI, Pressure::MPA}) {
         EXPECT_EQ(none[unit].Eject(), RR::INVALID);
-        EXPECT_EQ(Pressure()[unit].Eject(), RR::INVALID);
     }
     EXPECT_EQ(ConvBarToPressure(FixPnt3(30000))[Pressure::KPA].Eject(), RR::INVALID) << "too large for a field";
-
-    const Humidity humidity(1, 2, 3, 4);
-    EXPECT_EQ(humidity[Humidity::PPMW].Eject(), 4000);
-    EXPECT_EQ(humidity[Humidity::CELSPR].Eject(), RR::INVALID);
-    EXPECT_EQ(humidity[Humidity::FAHRPR].Eject(), RR::INVALID);
-}
-
-TEST(Types, AUnitThatIsNoneStopsTheProgram)
-{
+    EXPECT_EQ(Humidity(1, 2, 3, 4)[Humidity::FAHRPR].Eject(), RR::INVALID);
     EXPECT_DEATH(Pressure()[Pressure::NUM], "0<=index && index < NUM");
     EXPECT_DEATH(Humidity()[static_cast<Humidity::Unit>(-1)], "0<=index && index < NUM");
     EXPECT_DEATH(Temperature()[Temperature::NUM], "0<=index && index < NUM");

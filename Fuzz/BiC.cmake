@@ -1,0 +1,1 @@
+zarn_fuzz(bic SOURCES FuzzBiC.cpp LINK link)
