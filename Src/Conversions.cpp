@@ -7,7 +7,7 @@ using RR::INVALID_DOUBLE;
 namespace {
 
 constexpr double psiPerBar = 14.503773773;
-constexpr double ppmvPerPpmw = 8.1111;     // in SF6
+constexpr double ppmvPerPpmw = 8.1111;      // in SF6
 constexpr double referencePressure = 1.013; // bar
 
 /// `factored` unless `value` is the invalid one.

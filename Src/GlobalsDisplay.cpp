@@ -99,7 +99,7 @@ void DsplHalfbright()
 
 void DsplShowHourglass()
 {
-    const int fd = OpenDevice(framebuffer, O_RDWR);
+    const int fd = OpenDevice(framebuffer, O_WRONLY);
     if (fd < 0) {
         return;
     }

