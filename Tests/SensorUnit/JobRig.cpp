@@ -67,6 +67,7 @@ std::string JobRig::Measure(bool depot)
         return !cause.empty();
     });
     if (!cause.empty()) return cause;
+    record = {Reading(SENSOR_SF6), Reading(SENSOR_SO2), Humidity(), Reading(SENSOR_P6)};
     Next();
     Shut({1});
     Next(10);

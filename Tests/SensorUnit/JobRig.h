@@ -29,6 +29,10 @@ public:
 
     SensorUnit::Machine machine;
     int ticks = 0;          ///< seconds since the start
+    /// What a measurement records at the end of its passage time.
+    struct Record {
+        double sf6 = 0, so2 = 0, humidity = 0, compartment = 0;
+    } record;
     double highestBack = 0; ///< the highest P2 of a measurement's passage time, bar
 
 private:

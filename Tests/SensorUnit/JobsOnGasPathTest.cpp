@@ -18,6 +18,17 @@ struct Row {
 
 class Jobs : public testing::TestWithParam<Row> {};
 
+/// What all volumes hold together of a share, SHARE_NUM for the gas as such.
+double Sum(const Machine& machine, int share)
+{
+    double sum = 0;
+    for (int node = 0; node < NODE_NUM; node++) {
+        const Volume& volume = machine.path.At(Node(node));
+        sum += volume.content * (share == SHARE_NUM ? 1 : volume.gas[std::size_t(share)]);
+    }
+    return sum;
+}
+
 void Contaminate(Machine& machine, double dewPoint, double so2)
 {
     Gas gas = machine.path.At(NODE_C1).gas;
@@ -71,3 +82,68 @@ INSTANTIATE_TEST_SUITE_P(Path, Jobs, testing::Values(
     Row{"leakAtSuction", "R", [](Machine& m) { m.faults.leak[NODE_J] = 10; }, "E63", 240},
     Row{"wetSensorPath", "Q", [](Machine& m) { m.faults.wetDewPoint = -10; }, "E60", 900}),
     [](const auto& row) { return row.param.name; });
+
+TEST(GasPath, AMeasurementShowsTheCompartmentWhateverWasInThePath)
+{
+    const struct {
+        double before, beforeSo2, dewPoint, so2;
+    } rows[] = {{-10, 60, -42, 0}, {-42, 0, -10, 60}, {-42, 0, -55, 5}};
+    for (const auto& row : rows) {
+        JobRig rig;
+        Contaminate(rig.machine, row.before, row.beforeSo2);
+        Gas gas = rig.machine.path.At(NODE_C1).gas;
+        gas[SHARE_SF6] = 97.4;
+        gas[SHARE_SO2] = row.so2;
+        gas[SHARE_WATER] = rig.machine.WaterOf(row.dewPoint);
+        rig.machine.path.SetCompartmentGas(gas);
+        ASSERT_EQ(rig.Run('B'), "H00");
+        EXPECT_NEAR(rig.record.sf6, 97.4, 0.05);
+        EXPECT_NEAR(rig.record.so2, row.so2, 0.3) << row.dewPoint;
+        EXPECT_NEAR(rig.record.humidity, row.dewPoint, 1) << "whole degrees";
+        EXPECT_NEAR(rig.record.compartment, 4.99, 0.01);
+        EXPECT_GT(rig.highestBack, 0.003);
+    }
+}
+
+TEST(GasPath, NoGasIsLostOrMadeWithoutALeak)
+{
+    JobRig rig;
+    Contaminate(rig.machine, -38, 8);
+    rig.machine.path.SetDepotLevel(10);
+    Gas clean = rig.machine.path.At(NODE_C1).gas;
+    clean[SHARE_SO2] = 0;
+    rig.machine.path.SetCompartmentGas(clean);
+    const Machine before = rig.machine;
+    for (const char job : std::string("BFJFDF")) {
+        EXPECT_EQ(rig.Run(job), "H00") << job;
+    }
+    for (const int share : {int(SHARE_NUM), int(SHARE_SF6), int(SHARE_SO2), int(SHARE_WATER)}) {
+        EXPECT_NEAR(Sum(rig.machine, share) / Sum(before, share), 1, 1e-9) << share;
+    }
+    EXPECT_GT(rig.machine.path.At(NODE_C1).gas[SHARE_SO2], 0.02) << "what was pumped back brought its SO2 along";
+    EXPECT_EQ(rig.machine.pumpBacks, before.pumpBacks + 1);
+    EXPECT_GT(rig.machine.compressorSeconds, before.compressorSeconds + 20);
+
+    rig.machine.faults.leak[NODE_C1] = 100;
+    rig.machine.Apply();
+    rig.machine.Advance(3600);
+    EXPECT_NEAR(rig.machine.path.Pressure(NODE_C1), 1.013, 0.01);
+    rig.machine.faults = {};
+    rig.machine.SetAmbient(850, 23, 45);
+    EXPECT_EQ(rig.Run('F'), "H00") << "into thinner air";
+    rig.machine.faults.leak[NODE_S] = 100;
+    rig.machine.Apply();
+    rig.machine.path.SetPressure(NODE_S, 0.2);
+    rig.machine.Advance(60);
+    EXPECT_LT(rig.Reading(SENSOR_SF6), 60) << "a leak lets air into an evacuated path";
+}
+
+TEST(GasPath, AFilterAtTheCompressorMakesPurificationSucceed)
+{
+    JobRig rig;
+    Contaminate(rig.machine, -15, 40);
+    rig.machine.filter = 0.9;
+    rig.machine.Apply();
+    EXPECT_EQ(rig.Run('J'), "H00");
+    EXPECT_LT(rig.ticks, 283) << "before the last of ten cycles";
+}
