@@ -89,8 +89,10 @@ public:
     /// Behind the last element of equal key. A hint next to the place saves the search; any other does no harm.
     Handle Insert(const Key& key, Handle hint = Handle());
     Handle Insert(const Key& key, const Data& data, Handle hint = Handle());
-    /// False if the key is there already: its entry stays as it is, and `h` is set to it. Otherwise `h` is the new one.
+    /// False if the key is there already: its entry stays as it is, and `h` is set to it. Otherwise `h` is the new one,
+    /// and a key that may be moved from is taken over.
     bool InsertUnique(const Key& key, Handle& h, Handle hint = Handle());
+    bool InsertUnique(Key&& key, Handle& h, Handle hint = Handle());
     bool InsertUnique(const Key& key, const Data& data, Handle hint = Handle());
     bool InsertUnique(const Key& key);
 
@@ -126,7 +128,8 @@ private:
     Element* StartAtHint(const Key& key, Handle hint) const;
     Place Descend(const Key& key, UInt08 level) const;
     Place Locate(const Key& key, UInt08 level, Handle hint) const;
-    Handle LinkNew(const Key& key, UInt08 level, const Place& place);
+    template <class K>
+    Handle LinkNew(K&& key, UInt08 level, const Place& place);
 
     // Of the level generator. The store holds 15 pairs of bits below its two top bits.
     static inline UInt32 next = 1;

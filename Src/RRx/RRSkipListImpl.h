@@ -78,10 +78,13 @@ bool SkipList<Key, Data>::Find(const Key& key, Handle& h) const
             return true;
         }
     }
-    for (e = e->next; e != base && !(key < e->key); e = e->next) {
+    for (e = e->next; e != base; e = e->next) {
         if (key == e->key) {
             h.e = e;
             return true;
+        }
+        if (key < e->key) {
+            return false;
         }
     }
     return false;
@@ -128,6 +131,16 @@ bool SkipList<Key, Data>::InsertUnique(const Key& key, Handle& h, Handle hint)
     const UInt08 level = NewRandomLevel();
     const Place place = Locate(key, level, hint);
     h = place.equal != nullptr ? HandleOf(place.equal) : LinkNew(key, level, place);
+    return place.equal == nullptr;
+}
+
+template <class Key, class Data>
+bool SkipList<Key, Data>::InsertUnique(Key&& key, Handle& h, Handle hint)
+{
+    MakeBase();
+    const UInt08 level = NewRandomLevel();
+    const Place place = Locate(key, level, hint);
+    h = place.equal != nullptr ? HandleOf(place.equal) : LinkNew(std::move(key), level, place);
     return place.equal == nullptr;
 }
 
@@ -290,12 +303,7 @@ typename SkipList<Key, Data>::Element* SkipList<Key, Data>::StartAtHint(const Ke
     if (e == nullptr) {
         return nullptr;
     }
-    if (key == e->key) {
-        return e;
-    }
-    if (key < e->key) {
-        return e->prev == base || !(key < e->prev->key) ? e->prev : nullptr;
-    }
+    // The usual case of keys that come in order has to be the quick one.
     if (key > e->key) {
         if (e->next == base) {
             return e;
@@ -304,6 +312,12 @@ typename SkipList<Key, Data>::Element* SkipList<Key, Data>::StartAtHint(const Ke
             return e->next;
         }
         return key > e->next->key ? nullptr : e;
+    }
+    if (key == e->key) {
+        return e;
+    }
+    if (key < e->key) {
+        return e->prev == base || !(key < e->prev->key) ? e->prev : nullptr;
     }
     return nullptr;
 }
@@ -362,11 +376,12 @@ typename SkipList<Key, Data>::Place SkipList<Key, Data>::Locate(const Key& key, 
 }
 
 template <class Key, class Data>
-typename SkipList<Key, Data>::Handle SkipList<Key, Data>::LinkNew(const Key& key, UInt08 level, const Place& place)
+template <class K>
+typename SkipList<Key, Data>::Handle SkipList<Key, Data>::LinkNew(K&& key, UInt08 level, const Place& place)
 {
     Element* elem;
     CreateRawElement(elem, level);
-    elem->key = key;
+    elem->key = std::forward<K>(key);
     elem->prev = place.after;
     elem->next = place.after->next;
     elem->prev->next = elem;
@@ -375,7 +390,7 @@ typename SkipList<Key, Data>::Handle SkipList<Key, Data>::LinkNew(const Key& key
 
     Element* before = place.retro;
     for (int i = level - 1; i >= 0; --i) {
-        while (before->skipTower[i] != nullptr && !(key < before->skipTower[i]->key)) {
+        while (before->skipTower[i] != nullptr && !(elem->key < before->skipTower[i]->key)) {
             before = before->skipTower[i];
         }
         Element* const ahead = before->skipTower[i];

@@ -25,9 +25,11 @@ public:
     /// Up to `limit` characters; `INVALID` for no limit.
     String(const char* str, SInt32 limit = INVALID);
     String(const String& source) { Assign(source.buffer, source.length); }
+    String(String&& source) noexcept { SwapResources(source); }
     ~String() { Free(); }
 
     String& operator=(const String& source);
+    String& operator=(String&& source) noexcept;
     String& operator=(const char* str);
 
     /// Never null.
