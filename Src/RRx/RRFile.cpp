@@ -153,6 +153,20 @@ bool FILE_Read(const char* pathFile, String& text)
     return got >= 0;
 }
 
+bool FILE_Read(const char* pathFile, UInt08* buffer, SInt32 room, SInt32& num)
+{
+    num = 0;
+    // One way along the path instead of two. What is no regular file must not make the opening wait.
+    const Descriptor file(open(Locate(pathFile).c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    struct stat status;
+    if (file.fd < 0 || fstat(file.fd, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > room) {
+        return false;
+    }
+    const SInt32 got = ReadOnce(file.fd, buffer, static_cast<SInt32>(status.st_size));
+    num = got >= 0 ? got : 0;
+    return got >= 0;
+}
+
 bool FILE_Write(const char* pathFile, const UInt08* content, SInt32 num, bool& full)
 {
     const Descriptor file(OpenFile(OPENWRITE, pathFile));

@@ -44,6 +44,8 @@ bool WriteFileNext(int fd, const UInt08* buffer, SInt32 num, bool& full);
 /// Read a whole regular file; the content is empty on failure. A file that shrinks meanwhile yields what is there.
 bool FILE_Read(const char* pathFile, Array<UInt08>& content);
 bool FILE_Read(const char* pathFile, String& text);
+/// The same into `room` bytes of the caller's, of which `num` are used; fails if the file is larger.
+bool FILE_Read(const char* pathFile, UInt08* buffer, SInt32 room, SInt32& num);
 
 /// Replace a whole file: it is emptied, then written at once. After a failure in between it is short or
 /// empty, which its reader must be able to notice. `full` tells whether the medium had no room.

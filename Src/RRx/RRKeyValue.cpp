@@ -6,13 +6,14 @@
 #include <array>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace RR {
 
 namespace {
 
 /// What a character may stand in, one bit each.
-enum CharClass : UInt08 { IN_KEY = 1, IN_VALUE = 2, IN_COMMENT = 4 };
+enum CharClass : UInt08 { IN_KEY = 1, IN_VALUE = 2 };
 
 constexpr std::array<UInt08, 256> MakeCharClasses()
 {
@@ -20,9 +21,7 @@ constexpr std::array<UInt08, 256> MakeCharClasses()
     for (int c = 0; c < 256; ++c) {
         const bool inKey = c >= 0x21 && c <= 0x7E && c != '*' && c != '#' && c != '?' && c != '=';
         const bool inValue = ((c >= 0x07 && c <= 0x0D) || (c >= 0x20 && c <= 0x7E) || c >= 0xA1) && c != '"';
-        const bool inComment = c != '\r' && c != '\n';
-        classes[static_cast<std::size_t>(c)] =
-            static_cast<UInt08>((inKey ? IN_KEY : 0) | (inValue ? IN_VALUE : 0) | (inComment ? IN_COMMENT : 0));
+        classes[static_cast<std::size_t>(c)] = static_cast<UInt08>((inKey ? IN_KEY : 0) | (inValue ? IN_VALUE : 0));
     }
     return classes;
 }
@@ -45,10 +44,11 @@ bool IsLineEnd(char c)
     return c == '\r' || c == '\n';
 }
 
-/// Walks once over the bytes of a file.
+/// Walks once over the bytes of a file. A NUL has to stand behind them: it belongs to nothing but a comment, so
+/// that all else ends there by itself.
 class Reader {
 public:
-    explicit Reader(const String& text) : at(text), end(at + text.GetLen()) {}
+    explicit Reader(std::string_view text) : at(text.data()), end(at + text.size()) {}
 
     bool IsAtEnd() const { return at == end; }
 
@@ -73,7 +73,9 @@ public:
         }
         SkipBlanks();
         if (Take('#')) {
-            TakeAll(IN_COMMENT);
+            while (!IsAtEnd() && !IsLineEnd(*at)) {
+                ++at;
+            }
         }
         return IsAtEnd() || IsLineEnd(*at);
     }
@@ -82,7 +84,7 @@ public:
     SInt32 TakeLineEnds()
     {
         SInt32 number = 0;
-        for (; at != end && IsLineEnd(*at); ++number) {
+        for (; IsLineEnd(*at); ++number) {
             const bool isReturn = *at++ == '\r';
             if (isReturn) {
                 Take('\n');
@@ -94,7 +96,7 @@ public:
 private:
     bool Take(char c)
     {
-        const bool there = at != end && *at == c;
+        const bool there = *at == c;
         at += there;
         return there;
     }
@@ -102,7 +104,7 @@ private:
     std::string_view TakeAll(CharClass charClass)
     {
         const char* const start = at;
-        while (at != end && IsIn(*at, charClass)) {
+        while (IsIn(*at, charClass)) {
             ++at;
         }
         return std::string_view(start, static_cast<std::size_t>(at - start));
@@ -110,7 +112,7 @@ private:
 
     void SkipBlanks()
     {
-        while (at != end && (*at == ' ' || *at == '\t')) {
+        while (*at == ' ' || *at == '\t') {
             ++at;
         }
     }
@@ -121,7 +123,10 @@ private:
 
 String ToString(std::string_view text)
 {
-    return String(text.data(), static_cast<SInt32>(text.size()));
+    String copy;
+    copy.SetLen(static_cast<SInt32>(text.size()));
+    std::memcpy(copy.Adr(), text.data(), text.size());
+    return copy;
 }
 
 constexpr std::string_view commentStart = "# ";
@@ -221,8 +226,17 @@ bool KeyValue::Load(const String& fn, SInt32& sytaxErr, SInt32& dblEntry)
     fileName = fn;
     sytaxErr = INVALID;
     dblEntry = INVALID;
-    String text;
-    if (!FILE_Read(fileName, text)) {
+    // The usual file is small, and a block of its size from the heap would be the dearest part of the reading.
+    UInt08 block[8192];
+    SInt32 num;
+    String large;
+    std::string_view text;
+    if (FILE_Read(fileName, block, sizeof block - 1, num)) {
+        block[num] = 0;
+        text = std::string_view(reinterpret_cast<const char*>(block), static_cast<std::size_t>(num));
+    } else if (FILE_Read(fileName, large)) {
+        text = std::string_view(large.Adr(), static_cast<std::size_t>(large.GetLen()));
+    } else {
         return false;
     }
     // Files of the writer are sorted: each entry goes right behind the one before it, without a search.
@@ -239,9 +253,9 @@ bool KeyValue::Load(const String& fn, SInt32& sytaxErr, SInt32& dblEntry)
         if (value.empty()) {
             continue;
         }
-        const String keyText = ToString(key);
+        String keyText = ToString(key);
         String valueText = ToString(value);
-        if (!list.InsertUnique(keyText, latest, latest)) {
+        if (!list.InsertUnique(std::move(keyText), latest, latest)) {
             list.SetEmpty();
             list.Insert(keyText, valueText);
             dblEntry = line;
