@@ -1,0 +1,1 @@
+zarn_fuzz(dates SOURCES FuzzDates.cpp LINK rrx)

@@ -1,0 +1,1 @@
+zarn_fuzz(keyvalue SOURCES FuzzKeyValue.cpp LINK rrx)
