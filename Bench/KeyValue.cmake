@@ -1,0 +1,1 @@
+zarn_bench(bench_keyvalue SOURCES BenchKeyValue.cpp LINK rrx)
