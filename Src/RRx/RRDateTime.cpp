@@ -107,9 +107,13 @@ bool DateTime::Export(UInt32& tSecs) const
 
 void DateTime::Localize()
 {
-    if (IsValid()) {
-        *this = LocalTime(static_cast<std::time_t>(ToSeconds()));
+    if (!IsValid()) {
+        return;
     }
+    // The system's clock may be too narrow for the date.
+    const SInt64 seconds = ToSeconds();
+    const std::time_t clock = static_cast<std::time_t>(seconds);
+    *this = clock == seconds ? LocalTime(clock) : DateTime();
 }
 
 void DateTime::Universalize()

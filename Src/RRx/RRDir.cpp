@@ -1,3 +1,6 @@
+// Inodes and offsets of a large medium need the wide calls on a 32-bit machine.
+#define _FILE_OFFSET_BITS 64
+
 #include "RRx/RRFile.h"
 
 #include "Board/Board.h"

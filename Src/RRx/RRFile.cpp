@@ -291,8 +291,9 @@ bool FILE_ReadInfo(const char* pathFile, FileInfo& info)
     } else {
         info.type = S_ISDIR(status.st_mode) ? FT_FOLDER : FT_OTHER;
     }
-    if (status.st_mtime >= 0 && status.st_mtime <= UINT32_MAX) {
-        info.modTime.Import(static_cast<UInt32>(status.st_mtime));
+    const SInt64 changed = status.st_mtime;
+    if (changed >= 0 && changed <= UINT32_MAX) {
+        info.modTime.Import(static_cast<UInt32>(changed));
     }
     return true;
 }

@@ -58,8 +58,6 @@ TEST(Date, SetBringsTheDayBackToTheEndOfItsMonthAndRefusesTheRest)
         EXPECT_EQ(Iso(date), row.result);
     }
     EXPECT_EQ(Date(1, 1, 1699).GetYear(), INVALID);
-    EXPECT_FALSE(Date::IsLeapYear(10000));
-    EXPECT_TRUE(Date::IsLeapYear(9996));
     EXPECT_EQ(Date::GetDaysInMonth(2, 9001), INVALID);
     EXPECT_EQ(Date::GetDaysInMonth(13, 2000), INVALID);
 }
@@ -208,10 +206,6 @@ TEST(DateTime, LocalAndUniversalTimeFollowTheZone)
     DateTime first(1, 1, 1700, 0, 30, 0);
     first.Universalize();
     EXPECT_FALSE(first.IsValid()) << Iso(first);
-    DateTime none;
-    none.Localize();
-    none.Universalize();
-    EXPECT_FALSE(none.IsValid());
 }
 
 TEST(DateTime, ReadsItsTwoFormsAndNothingElse)
@@ -256,7 +250,4 @@ TEST(DateTime, TemplatesAreFilledInPlace)
     SimpleSubst(text.data(), "", "1");
     SimpleSubst(text.data(), "12", "");
     EXPECT_EQ(text, "12X12");
-    char digits[3];
-    PrintXX(100, digits);
-    EXPECT_STREQ(digits, "xx");
 }

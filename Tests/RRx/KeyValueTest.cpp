@@ -102,3 +102,17 @@ TEST(KeyValue, TheWritersBytesAreFixedAndReadBackEqual)
     EXPECT_EQ(copy.GetCount(), 3) << "an unreadable file changed the store";
     EXPECT_FALSE(copy.Save("/absent/file"));
 }
+
+TEST(KeyValue, FilesOfAnySizeAreReadToTheirLastByte)
+{
+    for (const std::size_t size : {8190u, 8191u, 8192u, 8193u, 100000u}) {
+        const std::string value(size - 5, 'v');
+        KeyValue store;
+        WriteFile("K=\"" + value + "\"\n");
+        EXPECT_TRUE(store.Load(path)) << size;
+        EXPECT_EQ(std::string(store("K")), value);
+        store.SetEmpty();
+        WriteFile("K=\"" + value + "v!");
+        EXPECT_FALSE(store.Load(path)) << size;
+    }
+}
