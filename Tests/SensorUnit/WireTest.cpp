@@ -338,8 +338,11 @@ TEST(Wire, ACommandRunsUnderTheUnit)
     EXPECT_FALSE(std::filesystem::is_symlink(ends.LinkPath())) << "the link goes with the unit";
     UnitProcess missing({}, {"/nowhere/to/be/found"});
     EXPECT_EQ(missing.End(), 127);
-    UnitProcess told({}, {"sh", "-c", "trap 'exit 9' TERM; while :; do sleep 0.05; done"});
-    ASSERT_TRUE(told.IsReady());
+    const string ready = ends.Folder() + "/ready";
+    UnitProcess told({}, {"sh", "-c", "trap 'exit 9' TERM; touch " + ready + "; while :; do sleep 0.05; done"});
+    for (int i = 0; i < 1000 && !std::filesystem::exists(ready); i++) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
     EXPECT_EQ(told.End(SIGTERM), 9);
 
     UnitProcess killed;
