@@ -22,6 +22,9 @@ struct Field {
     const char* key;
     Type Settings::*member;
 };
+// Older compilers don't deduce aggregates by themselves.
+template <typename Type>
+Field(const char*, Type Settings::*) -> Field<Type>;
 
 constexpr auto fields = std::tuple{
     Field{"DisplayAutoDimTime", &Settings::dsplAutoDimTime},
