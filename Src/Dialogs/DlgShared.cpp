@@ -8,6 +8,7 @@
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QTextDocument>
 
 namespace {
 
@@ -37,6 +38,12 @@ namespace DlgShared {
 QWidget* Parent()
 {
     return qobject_cast<QWidget*>(WndMainObject());
+}
+
+QString AsWritten(const QString& text)
+{
+    // A label looks for tags in the first line alone, and takes escaped ones there for rich text as well.
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped().replace('\n', QLatin1String("<br>")) : text;
 }
 
 void Center(QDialog& dialog)

@@ -12,6 +12,10 @@ namespace DlgShared {
 /// The main window, above which every dialog stands; null when there is none.
 QWidget* Parent();
 
+/// `text` in a form that the message dialogs show as it is written, also where it looks like rich text. For texts
+/// with parts that come from a file or a finger.
+QString AsWritten(const QString& text);
+
 /// Moves the dialog to the middle of its screen, by its present size.
 void Center(QDialog& dialog);
 
