@@ -1,0 +1,55 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="de_DE">
+<context>
+    <name>DlgKeyboard</name>
+    <message>
+        <source>ß</source>
+        <translation>=</translation>
+    </message>
+    <message>
+        <source>Z</source>
+        <translation>Y</translation>
+    </message>
+    <message>
+        <source>Ü</source>
+        <translation>[</translation>
+    </message>
+    <message>
+        <source>+</source>
+        <translation>]</translation>
+    </message>
+    <message>
+        <source>Ö</source>
+        <translation>(</translation>
+    </message>
+    <message>
+        <source>Ä</source>
+        <translation>)</translation>
+    </message>
+    <message>
+        <source>#</source>
+        <translation>_</translation>
+    </message>
+    <message>
+        <source>Y</source>
+        <translation>Z</translation>
+    </message>
+    <message>
+        <source>_</source>
+        <translation>:</translation>
+    </message>
+    <message>
+        <source>.</source>
+        <translation>&apos;</translation>
+    </message>
+    <message>
+        <source>-</source>
+        <translation>&quot;</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>취소</translation>
+    </message>
+</context>
+</TS>
