@@ -111,7 +111,7 @@ bool TakeLine(const std::string& key, std::istringstream& from, Machine& machine
         machine.boardType = std::uint8_t(v[0]);
         return true;
     }
-    if (key == "clock" && Numbers(from, v, 1, -1e12, 1e12)) {
+    if (key == "clock" && Numbers(from, v, 1, -2.5e11, 2.5e11)) {
         machine.clockOffset = std::int64_t(v[0]);
         return true;
     }
