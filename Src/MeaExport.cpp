@@ -116,10 +116,11 @@ void Sheet::AddLimits()
 
 void Sheet::AddInstrument()
 {
+    const auto text = [](const char* latin1) { return QString::fromLatin1(latin1); };
     const auto withVersion = [](const QString& what, const char* version) { return what + "  (V" + version + ")"; };
     Heading('D', Mea::tr("Sonstige"));
-    Row('D', Mea::tr("HMI-Anw."), withVersion(QString::fromLatin1(mea.applType, mea.applType.GetLen()), mea.applVers.ToStr()));
-    Row('D', Mea::tr("HMI-Board"), QString::fromLatin1(mea.boardType, mea.boardType.GetLen()));
+    Row('D', Mea::tr("HMI-Anw."), withVersion(text(mea.applType), mea.applVers.ToStr()));
+    Row('D', Mea::tr("HMI-Board"), text(mea.boardType));
     Row('D', Mea::tr("TDev-Anw."), withVersion(PrintNum(mea.tdApplType), mea.tdApplVers.ToStr()));
     Row('D', Mea::tr("TDev-Board"), withVersion(PrintNum(mea.tdBoardType), mea.tdBoardVers.ToStr()));
 }

@@ -34,7 +34,7 @@ const VerdictRow verdictRows[] = {
     {"the same in Fahrenheit, dry",
      [] { settings.unitHumidity = Humidity::FAHRPR, scripted.humidity[Humidity::FAHRPR] = FixPnt3(-32); },
      "ok ok ok ok", Mea::PASSED},
-    {"no reading at all", [] { scripted.humidity = Humidity(), std::fill_n(scripted.amount, T::SENSOR_NUM, INVALID_DOUBLE); },
+    {"no reading", [] { scripted.humidity = Humidity(), std::fill_n(scripted.amount, T::SENSOR_NUM, INVALID_DOUBLE); },
      "--- --- --- ---", Mea::NO_RESULT},
     {"sensors pulled", [] { std::fill_n(scripted.profile, T::SENSOR_NUM, T::SensorProfile()); },
      "--- --- --- ---", Mea::NO_RESULT},
