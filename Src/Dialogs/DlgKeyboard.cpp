@@ -10,12 +10,15 @@
 #include <QCompleter>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QStyle>
 #include <QStyledItemDelegate>
 
 namespace {
 
 /// What there is room for between the line and the upper edge of the screen.
 constexpr int offeredRows = 2;
+
+const QRegularExpression keyName(QStringLiteral("^button\\d+$"));
 
 }
 
@@ -25,8 +28,8 @@ DlgKeyboard::DlgKeyboard(const QString& title)
     ui->setupUi(this);
     ui->headerTxt->setText(title);
     DlgShared::Center(*this);
-    const QRegularExpression numbered(QStringLiteral("^button\\d+$"));
-    for (const QPushButton* key : findChildren<QPushButton*>(numbered)) {
+    MarkWords();
+    for (const QPushButton* key : findChildren<QPushButton*>(keyName)) {
         connect(key, &QPushButton::clicked, this, &DlgKeyboard::OnKeyButton);
     }
     connect(ui->buttonClr, &QPushButton::clicked, this, &DlgKeyboard::OnEditButton);
@@ -82,11 +85,24 @@ void DlgKeyboard::SetUpCompleter(int maxLetter)
     completer->setMaxVisibleItems(offeredRows);
     QAbstractItemView* popup = completer->popup();
     popup->setStyleSheet(styleSheet());
+    popup->setObjectName(QStringLiteral("offeredNames"));
     popup->setFont(ui->lineEdit->font());
     // The completer's own delegate doesn't follow the style sheet, whose rows are high enough for a finger.
     popup->setItemDelegate(new QStyledItemDelegate(popup));
     popup->installEventFilter(this);
     ui->lineEdit->setCompleter(completer);
+}
+
+void DlgKeyboard::MarkWords()
+{
+    for (QPushButton* key : findChildren<QPushButton*>(keyName)) {
+        const bool holdsWord = key->text().size() > 1;
+        if (key->property("holdsWord").toBool() != holdsWord) {
+            key->setProperty("holdsWord", holdsWord);
+            key->style()->unpolish(key);
+            key->style()->polish(key);
+        }
+    }
 }
 
 void DlgKeyboard::OfferNames()
@@ -123,6 +139,7 @@ void DlgKeyboard::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange) {
         ui->retranslateUi(this);
+        MarkWords();
     }
     QDialog::changeEvent(event);
 }

@@ -33,6 +33,8 @@ private:
     ~DlgKeyboard() override;
 
     void SetUpCompleter(int maxLetter);
+    /// Tells the style sheet which keys need smaller letters, since they type a whole word.
+    void MarkWords();
     /// Shows the names that begin with the text of the line, if there are any.
     void OfferNames();
 
