@@ -7,7 +7,7 @@
 
 namespace {
 
-char folder[] = "/dev/shm/zarn-fuzz-XXXXXX";
+char folder[] = "/dev/shm/zarn-names-XXXXXX";
 
 void RemoveBoard()
 {
