@@ -1,0 +1,129 @@
+#include "WndMain.h"
+
+#include "Globals.h"
+#include "TDFirmware.h"
+#include "TavorDev.h"
+#include "ui_WndMain.h"
+
+using RR::DateTime;
+
+namespace {
+
+constexpr int reconnectMs = 2000;
+constexpr int inoperableSecs = 30;
+
+/// A clock that was never set, or lost its battery, stands before 2001.
+bool IsGood(const DateTime& clock)
+{
+    return clock.IsValid() && clock.GetYear() > 2000;
+}
+
+void LogTime(const char* format, const DateTime& time)
+{
+    char text[] = "MME-DD-YYYY hh:mm:ss";
+    time.Export(text);
+    RR::Log(format, text);
+}
+
+}
+
+void WndMain::On2ndStage()
+{
+    if (!tavorDev.Connect(TavorDev::MODE_APPL)) {
+        // A unit without a valid application answers from its program loader.
+        tavorDev.Connect(TavorDev::MODE_PGMLDR);
+    }
+    CheckFirmware();
+    if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
+        SynchronizeClocks();
+    }
+    if (inspectionMode) {
+        RR::Log("[ZARN] Preparation skipped (inspection mode)\n");
+        ui->startMea->setEnabled(true);
+    } else if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
+        jobSTM.Start(JobStateMachine::TYPE_H);
+    }
+}
+
+void WndMain::CheckFirmware()
+{
+    if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
+        TavorDev::Info info;
+        tavorDev.GetDevInfo(info);
+        SVersion needed = TDFW_INFO.applVers;
+        if (info.applVers != needed) {
+            RR::Log("[ZARN] TDev version disparity (has: %s, need: %s)\n", info.applVers.ToStr(), needed.ToStr());
+        }
+    } else {
+        ui->statusInoperableSymb->show();
+        ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
+        if (tavorDev.GetMode() == TavorDev::MODE_PGMLDR) {
+            RR::Log("[ZARN] Tavor device in program loader mode\n");
+        } else {
+            QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
+        }
+    }
+}
+
+void WndMain::SynchronizeClocks()
+{
+    const DateTime board = DateTime::Now();
+    const DateTime unit = tavorDev.GetRTC();
+    if (IsGood(board) && IsGood(unit)) {
+        LogTime("[ZARN] Tavor RTC: %s\n", unit);
+    } else if (IsGood(board)) {
+        LogTime("[ZARN] Synchronize clocks: TDev from HMI (%s)\n", board);
+        tavorDev.SetRTC(board);
+    } else if (IsGood(unit)) {
+        LogTime("[ZARN] Synchronize clocks: HMI from TDev (%s)\n", unit);
+        SetClock(unit);
+    }
+}
+
+void WndMain::OnReconnectTavorDev()
+{
+    if (tavorDev.Connect(TavorDev::MODE_APPL)) {
+        return;
+    }
+    if (tavorDev.GetMode() == TavorDev::MODE_PGMLDR) {
+        RR::Log("[ZARN] Tavor device in program loader mode\n");
+        return;
+    }
+    RR::Log("[ZARN] Connect to Tavor device failed\n");
+    QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
+}
+
+void WndMain::OnTavorDevConnected()
+{
+    if (tavorDev.GetMode() != TavorDev::MODE_PGMLDR) {
+        UpdateSensors();
+        ui->statusInoperableSymb->hide();
+    }
+}
+
+void WndMain::OnTavorDevDisconnected()
+{
+    ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
+}
+
+void WndMain::OnTavorDevLost()
+{
+    RR::Log("[ZARN] Tavor device lost\n");
+    ShowStatusBarMsg(tr("Sensoreinheit ausgefallen"), RR::INVALID);
+}
+
+void WndMain::OnTavorDevRecovered()
+{
+    RR::Log("[ZARN] Tavor device recovered\n");
+    StatusMsg(tr("Sensoreinheit wieder in Betrieb"));
+}
+
+void WndMain::OnTavorDevChanged()
+{
+    UpdateSensors();
+}
+
+void WndMain::OnShutdown()
+{
+    close();
+}
