@@ -87,10 +87,13 @@ void ListLeaks(const Faults& faults, std::string& answer)
 bool SetPressure(Faults& faults, Words& words, const Machine&)
 {
     const std::optional<int> sensor = words.Choice({"1", "2", "3", "4", "5"});
-    if (!sensor || !words.Finish()) {
+    const bool failing = sensor && words.AtEnd();
+    const std::optional<double> offset = sensor && !failing ? words.Number(-100, 100) : std::nullopt;
+    if (!(failing || offset) || !words.Finish()) {
         return false;
     }
-    faults.pressureFailing[std::size_t(*sensor)] = true;
+    faults.pressureFailing[std::size_t(*sensor)] = failing;
+    faults.pressureOffset[std::size_t(*sensor)] = offset.value_or(0);
     return true;
 }
 
@@ -99,6 +102,8 @@ void ListPressures(const Faults& faults, std::string& answer)
     for (std::size_t sensor = 0; sensor < PRESSURE_NUM; sensor++) {
         if (faults.pressureFailing[sensor]) {
             Add(answer, "pressure " + std::to_string(sensor + 1));
+        } else if (faults.pressureOffset[sensor] != 0) {
+            Add(answer, "pressure " + std::to_string(sensor + 1) + " " + Text(faults.pressureOffset[sensor]));
         }
     }
 }
@@ -209,7 +214,7 @@ constexpr Kind kinds[] = {
     {"compressor", "dead|weak PERCENT|failing|sound", "a failing one stands still and reads 2", SetCompressor, ListCompressor, ClearBoth<&Faults::compressor, &Faults::compressorShare>},
     {"leak", "c1|n1|e2|s|t|l|j|d|x RATE", "a hole to ambient, ml/s per bar", SetLeak, ListLeaks, Clear<&Faults::leak>},
     {"wet", "DEWPOINT", "the sensor path never gets drier, °C", SetWet, [](const Faults& f, std::string& a) { if (f.wetDewPoint) Add(a, "wet " + Text(*f.wetDewPoint)); }, Clear<&Faults::wetDewPoint>},
-    {"pressure", "1..5", "a pressure sensor without value", SetPressure, ListPressures, Clear<&Faults::pressureFailing>},
+    {"pressure", "1..5 [OFFSET]", "a pressure sensor without value, or one that reads so much more, bar", SetPressure, ListPressures, ClearBoth<&Faults::pressureFailing, &Faults::pressureOffset>},
     {"sensor", "sf6|so2|hum|hf|co|spare|h2s|p6 unplugged|failing|sound", "a failing sensor has no value", SetSensor, ListSensors, ClearBoth<&Faults::sensorUnplugged, &Faults::sensorFailing>},
     FLAG("depot", depotFailing, "the depot's level has no value"),
     FLAG("climate", climateFailing, "temperature, humidity and air pressure have no value"),

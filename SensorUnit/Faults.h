@@ -22,6 +22,7 @@ struct Faults {
     std::array<double, NODE_NUM> leak{};      ///< ml/s per bar
     std::optional<double> wetDewPoint;        ///< °C; the sensor path never gets drier
     std::array<bool, PRESSURE_NUM> pressureFailing{};
+    std::array<double, PRESSURE_NUM> pressureOffset{}; ///< bar; a sensor that has drifted
     bool depotFailing = false;
     bool climateFailing = false;
     std::array<bool, SENSOR_NUM> sensorUnplugged{};

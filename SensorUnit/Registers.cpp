@@ -105,7 +105,8 @@ Bytes ReadPressures(const Machine& machine)
     Bytes bytes;
     for (int sensor = 0; sensor < PRESSURE_NUM; sensor++) {
         const bool bad = machine.faults.pressureFailing[std::size_t(sensor)];
-        Append(bytes, std::uint32_t(bad ? noValue : machine.sensors.Pressure(PressureSensor(sensor))), 4);
+        const std::int32_t drift = std::int32_t(machine.faults.pressureOffset[std::size_t(sensor)] * 1000);
+        Append(bytes, std::uint32_t(bad ? noValue : machine.sensors.Pressure(PressureSensor(sensor)) + drift), 4);
     }
     return bytes;
 }
