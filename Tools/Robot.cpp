@@ -6,6 +6,7 @@
 #include <QListView>
 #include <QPixmap>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <QWidget>
 #include <atomic>
@@ -110,7 +111,11 @@ Scenario::Scenario(std::function<int()> scenario)
 
 void OnGui(const std::function<void()>& action)
 {
-    QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+    if (QThread::currentThread() == qApp->thread()) {
+        action();
+    } else {
+        QMetaObject::invokeMethod(qApp, action, Qt::BlockingQueuedConnection);
+    }
 }
 
 Running Start(const std::function<void()>& action)
