@@ -84,7 +84,7 @@ TEST_F(TavorDevTest, CommandsShowAtOnceAndChangesOfTheUnitByPolling)
     EXPECT_EQ(dev->GetFan1(), TavorDev::FAN_ON);
     EXPECT_EQ(dev->GetFan2(), TavorDev::FAN_OFF);
 
-    Tell("set ambient 980");
+    Tell("set hpa 980");
     EXPECT_TRUE(QTest::qWaitFor([&] { return dev->GetAirPressure() == 980; }, 6000));
     EXPECT_GE(changed.count(), 1);
 
