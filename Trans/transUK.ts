@@ -2,6 +2,28 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="de_DE">
 <context>
+    <name>DlgError</name>
+    <message>
+        <source>Nr:</source>
+        <translation>No:</translation>
+    </message>
+    <message>
+        <source>Schliessen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>DlgFileList</name>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>DlgKeyboard</name>
     <message>
         <source>ß</source>
@@ -193,6 +215,13 @@
     </message>
 </context>
 <context>
+    <name>DlgLowBatt</name>
+    <message>
+        <source>Schliessen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>DlgNameList</name>
     <message>
         <source>Liste der Messungsnamen</source>
@@ -297,6 +326,66 @@ was limited to %1 entries.</translation>
     <message>
         <source>Wechseldatenträger ist voll</source>
         <translation>No space left on storage device</translation>
+    </message>
+</context>
+<context>
+    <name>DlgPlugUsbDev</name>
+    <message>
+        <source>Bitte Wechseldatenträger anschliessen</source>
+        <translation>Please connect USB storage device</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Kein USB Wechseldatenträger gefunden</source>
+        <translation>No USB storage device found</translation>
+    </message>
+    <message>
+        <source>Fehler ...
+
+Kein Zugriff auf USB Wechseldatenträger</source>
+        <translation>Error ...
+
+No access to USB storage device</translation>
+    </message>
+</context>
+<context>
+    <name>DlgQuestion</name>
+    <message>
+        <source>Ja</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DlgShutdown</name>
+    <message>
+        <source>Gerät wird abgeschaltet&lt;p&gt;in</source>
+        <translation>Unit will be shut down&lt;p&gt;in</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DlgStatement</name>
+    <message>
+        <source>Schliessen</source>
+        <translation>Close</translation>
     </message>
 </context>
 </TS>

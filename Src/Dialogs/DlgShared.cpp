@@ -21,13 +21,14 @@ void Resize(QDialog& dialog, int width, int height)
     dialog.resize(qMin(width, screen.width()), qMin(height, screen.height()));
 }
 
-/// Rich text may need more room than its characters, for bold words and the gaps between paragraphs.
+/// Rich text may need more room than its characters, for bold words and the gaps between paragraphs. What is
+/// too long to be shown whole leaves the spacers alone.
 void GiveRoom(QDialog& dialog, QScrollArea& area, const QLabel& body)
 {
     dialog.layout()->activate();
     const int needed = body.heightForWidth(area.width());
-    if (needed > area.height()) {
-        area.setMinimumHeight(qMin(needed, area.height() + 2 * spacerHeight));
+    if (needed > area.height() && needed <= area.height() + 2 * spacerHeight) {
+        area.setMinimumHeight(needed);
     }
 }
 
