@@ -81,6 +81,7 @@ void DsplClear()
 
 void DsplHalfbright()
 {
+    Board::DimWindows();
     const int fd = OpenDevice(framebuffer, O_RDWR);
     if (fd < 0) {
         return;
@@ -99,6 +100,7 @@ void DsplHalfbright()
 
 void DsplShowHourglass()
 {
+    Board::ShowWaitingSign(Hourglass::picture.data(), Hourglass::WIDTH, Hourglass::HEIGHT);
     const int fd = OpenDevice(framebuffer, O_WRONLY);
     if (fd < 0) {
         return;

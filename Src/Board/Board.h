@@ -27,6 +27,14 @@ void SetSystemClock(std::uint32_t secs);
 /// Runs a shell command and returns what `system` returns, -1 on failure. The desk only logs it and returns 0.
 int Shell(const char* command);
 
+// What stands behind the windows is drawn into the framebuffer. The two below draw it where the window system keeps
+// the framebuffer to itself; the instrument does nothing there. Event loop's thread only.
+
+/// Dims all windows, until the next window that opens closes again or a finger touches what is dimmed.
+void DimWindows();
+/// Puts the sign of waiting, `width` x `height` grey bytes line by line, into the middle of the dimmed front window.
+void ShowWaitingSign(const std::uint8_t* grey, int width, int height);
+
 /// The arguments that the window system needs on this board, to be put behind the program's name.
 std::vector<std::string> WindowSystemArgs();
 

@@ -41,6 +41,14 @@ int Shell(const char* command)
     return std::system(command);
 }
 
+void DimWindows()
+{
+}
+
+void ShowWaitingSign(const std::uint8_t*, int, int)
+{
+}
+
 std::vector<std::string> WindowSystemArgs()
 {
     return {"-platform", "linuxfb:fb=/dev/fb0:size=800x480"};
