@@ -131,6 +131,36 @@ bool Running::WaitForEnd(int limitMs) const
     return WaitFor([this] { return HasEnded(); }, limitMs);
 }
 
+Meanwhile::Meanwhile(std::function<void()> steps)
+    : thread([this, steps = std::move(steps)] {
+          steps();
+          ended = true;
+      })
+{
+}
+
+Meanwhile::~Meanwhile()
+{
+    // The steps may still ask something of this thread.
+    while (!ended) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    thread.join();
+}
+
+void When(const std::function<bool()>& condition, const std::function<void()>& action)
+{
+    QTimer* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, condition, action] {
+        if (timer->isActive() && condition()) {
+            timer->stop();
+            timer->deleteLater();
+            action();
+        }
+    });
+    timer->start(10);
+}
+
 bool WaitFor(const std::function<bool()>& condition, int limitMs)
 {
     QElapsedTimer elapsed;

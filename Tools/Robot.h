@@ -4,6 +4,7 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <thread>
 
 /// Operates the running program as a finger would: by widgets on the screen, found by object name.
 /// A scenario runs on a thread of its own, so that it can follow into modal dialogs; each function below does its
@@ -17,6 +18,7 @@ struct Scenario {
 };
 
 /// Runs `action` on the event loop's thread and waits for its end. It must not open a modal dialog.
+/// On that thread itself it is run at once.
 void OnGui(const std::function<void()>& action);
 
 /// Something that was started on the event loop's thread and may run a modal dialog.
@@ -31,6 +33,24 @@ private:
     std::shared_ptr<std::atomic<bool>> ended;
 };
 Running Start(const std::function<void()>& action);
+
+/// For a program that hasn't given its event loop to a scenario: runs `steps` on a thread of their own while the caller,
+/// on the event loop's thread, goes on into a modal dialog. Its end waits for the end of the steps.
+class Meanwhile {
+public:
+    explicit Meanwhile(std::function<void()> steps);
+    ~Meanwhile();
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+
+private:
+    std::atomic<bool> ended = false;
+    std::thread thread;
+};
+
+/// Does `action` once, on the event loop's thread, as soon as `condition` holds there; for what lasts too short to be
+/// seen from another thread. Returns at once.
+void When(const std::function<bool()>& condition, const std::function<void()>& action);
 
 /// Waits until `condition`, asked on the event loop's thread, holds; false if it doesn't within `limitMs`.
 bool WaitFor(const std::function<bool()>& condition, int limitMs = 5000);
