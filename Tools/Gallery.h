@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+/// Shows every dialog with typical and with extreme content, takes its picture, and looks for cut-off texts.
+namespace Gallery {
+
+enum Content {
+    TYPICAL,
+    /// More than the program ever shows: a text may scroll.
+    EXTREME
+};
+
+/// A dialog in one state.
+struct Exhibit {
+    /// Name of its picture file.
+    const char* name;
+    Content content;
+    /// Opens the dialog and returns when it has closed.
+    std::function<void()> show;
+    /// What a user does before the picture is taken, by the robot on its own thread.
+    std::function<void()> prepare = nullptr;
+};
+
+/// All of them; a new dialog is one more line there.
+std::vector<Exhibit> Exhibits();
+
+/// The text in the language that is selected, as a caller of a dialog would hand it in.
+QString Said(const char* german, const char* english);
+
+}
