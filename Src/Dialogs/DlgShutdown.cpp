@@ -4,6 +4,7 @@
 #include "ui_DlgShutdown.h"
 
 #include <QApplication>
+#include <QEvent>
 
 namespace {
 
@@ -38,6 +39,15 @@ bool DlgShutdown::Show()
 bool DlgShutdown::IsShuttingDown()
 {
     return isShuttingDown;
+}
+
+bool DlgShutdown::event(QEvent* event)
+{
+    // Not every window system makes it the active window again when the dialog above it has closed.
+    if (event->type() == QEvent::WindowUnblocked) {
+        activateWindow();
+    }
+    return QDialog::event(event);
 }
 
 void DlgShutdown::ShowDelay()

@@ -16,6 +16,9 @@ public:
     /// True from the start of the countdown on, unless the user cancels it. What runs on timers then rests.
     static bool IsShuttingDown();
 
+protected:
+    bool event(QEvent* event) override;
+
 private slots:
     void OnTimeout();
     void OnSkipButton();
