@@ -65,7 +65,7 @@ std::vector<Exhibit> Exhibits()
          question("Zur Aktivierung der Inspektionsbetriebsart<br>bitte USB Schlüssel anschliessen.",
                   "To enter the inspection mode <br>please connect the USB key.", DlgQuestion::OK_CANCEL)},
         {"DlgQuestion-long", EXTREME, [] { DlgQuestion::Show(Paragraphs(12), DlgQuestion::OK_CANCEL, DlgQuestion::UNUSED); }},
-        {"DlgQuestion-words", EXTREME, question(longWords, longWords, DlgQuestion::YES_NO)},
+        {"DlgQuestion-words", TYPICAL, question(longWords, longWords, DlgQuestion::YES_NO)},
         {"DlgStatement-capacity", TYPICAL,
          statement("Die Speicherkapazität von 500 Messungen ist erreicht.<p><i>Bitte Messungen löschen oder Option<br>"
                    "<b>Automatischen Löschung</b><br>aktivieren.</i>",
@@ -80,7 +80,9 @@ std::vector<Exhibit> Exhibits()
          statement("Fehler ...\n\nKein Zugriff auf USB Wechseldatenträger", "Error ...\n\nNo access to USB storage device", true)},
         {"DlgStatement-short", TYPICAL, statement("Ok", "Ok", true)},
         {"DlgStatement-long", EXTREME, [] { DlgStatement::Show(Paragraphs(12), DlgStatement::UNUSED, false); }},
-        {"DlgStatement-words", EXTREME, statement(longWords, longWords, true)},
+        {"DlgError-words", TYPICAL, [] { DlgError::Show(QString::fromUtf8(longWords), QStringLiteral("B04-08")); }},
+        {"DlgLowBatt-words", TYPICAL,
+         [] { DlgLowBatt::Show(QString::fromUtf8(longWords), DlgLowBatt::UNUSED, true); }},
         {"DlgError-stop", TYPICAL,
          [] {
              DlgError::Show(Said("Messung abgebrochen!\n\nDruck am Anschluss 1 zu niedrig.\nBitte Gasraum prüfen.",

@@ -21,14 +21,45 @@ void Resize(QDialog& dialog, int width, int height)
     dialog.resize(qMin(width, screen.width()), qMin(height, screen.height()));
 }
 
-/// Rich text may need more room than its characters, for bold words and the gaps between paragraphs. What is
-/// too long to be shown whole leaves the spacers alone.
-void GiveRoom(QDialog& dialog, QScrollArea& area, const QLabel& body)
+/// Lets long words break anywhere, such as names that were typed without a blank.
+QString Breakable(const QString& text)
+{
+    constexpr int longWord = 20;
+    constexpr QChar breakHere(0x200B);
+    const bool rich = Qt::mightBeRichText(text);
+    QString broken;
+    int letters = 0;
+    // What ends the tag or entity that the text is in.
+    QChar end;
+    for (const QChar c : text) {
+        broken.append(c);
+        if (!end.isNull()) {
+            end = c == end ? QChar() : end;
+        } else if (rich && (c == '<' || c == '&')) {
+            end = c == '<' ? '>' : ';';
+        } else {
+            letters = c.isSpace() ? 0 : letters + 1;
+        }
+        if (letters >= longWord && end.isNull()) {
+            broken.append(breakHere);
+        }
+    }
+    return broken;
+}
+
+/// The text as shown may need more room than its characters: for bold words, the gaps between paragraphs, words
+/// longer than a line.
+void GiveRoom(QDialog& dialog, QScrollArea& area, QLabel& body)
 {
     dialog.layout()->activate();
-    const int needed = body.heightForWidth(area.width());
-    if (needed > area.height() && needed <= area.height() + 2 * spacerHeight) {
-        area.setMinimumHeight(needed);
+    if (body.minimumSizeHint().width() > area.width()) {
+        body.setText(Breakable(body.text()));
+    }
+    const int lacking = body.heightForWidth(area.width()) - area.height();
+    if (lacking > 2 * spacerHeight) {
+        Resize(dialog, dialog.width(), dialog.height() + lacking);
+    } else if (lacking > 0) {
+        area.setMinimumHeight(area.height() + lacking);
     }
 }
 

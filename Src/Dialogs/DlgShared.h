@@ -19,9 +19,9 @@ QString AsWritten(const QString& text);
 /// Moves the dialog to the middle of its screen, by its present size.
 void Center(QDialog& dialog);
 
-// Both fit a dialog to its text, which is measured as it is written, tags and all. `area` shows `body`; where the
-// text as shown needs more room than was measured, the area takes it from the spacers around it, and scrolls what
-// is still lacking. No dialog grows beyond its screen.
+// Both fit a dialog to its text, which is measured as it is written, tags and all. `area` shows `body`. Where the
+// text as shown needs more room than was measured, it is taken from the spacers around the area, or else the dialog
+// grows; at the height of the screen the text scrolls.
 
 /// Fits the height alone. To be called with the dialog in the size of its form.
 void FitHeight(QDialog& dialog, QScrollArea& area, QLabel& body, const QString& text);
