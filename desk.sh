@@ -3,8 +3,11 @@
 #
 #   ./desk.sh              in a window (without a display: on a virtual one, to be looked at by VNC)
 #   ./desk.sh measure      one whole measurement hands-free, at twenty times the speed
+#   ./desk.sh gallery      pictures of every dialog in every language in out/gallery, and a look for cut-off texts
 #   ./desk.sh ctl WORD...  says something to the running sensor unit; "ctl help" tells what it understands
 #   ./desk.sh card in|out  plugs or pulls the internal memory card
+#   ./desk.sh stick in [FOLDER] | stick out
+#                          plugs a USB stick, with a copy of the folder as its content, or pulls it
 #
 # The board is the folder desk/, which stays from run to run.
 set -euo pipefail
@@ -63,15 +66,40 @@ measure() {
     return $status
 }
 
+gallery() {
+    build --target zarn-gallery
+    mkdir -p out
+    ZARN_BOARD="$PWD/out/gallery-board" "$bin/Tools/zarn-gallery" out/gallery 2>out/gallery.log | tee -a out/gallery.log | grep -v '^\[' || return "${PIPESTATUS[0]}"
+}
+
+# stick in [FOLDER] | stick out. Without a folder the stick has what it had before.
+stick() {
+    case "${1:-}" in
+        in)
+            if [ -n "${2:-}" ]; then
+                [ -d "$2" ] || { echo "No such folder: $2" >&2; exit 2; }
+                rm -rf "$board/usb-stick"
+                mkdir -p "$board/usb-stick"
+                cp -R "$2/." "$board/usb-stick/"
+            fi
+            mkdir -p "$board/dev" "$board/usb-stick"
+            : >"$board/dev/sda1" ;;
+        out) rm -f "$board/dev/sda1" ;;
+        *) echo "usage: ./desk.sh stick in [FOLDER] | stick out" >&2; exit 2 ;;
+    esac
+}
+
 case "${1:-}" in
     "") run_in_window ;;
     measure) measure ;;
     ctl) shift; exec "$bin/SensorUnit/zarn-unit" ctl "$board/unit.ctl" "$@" ;;
+    gallery) gallery ;;
+    stick) shift; stick "$@" ;;
     card)
         case "${2:-}" in
             in) mkdir -p "$board/dev"; : >"$board/dev/mmcblk0p1" ;;
             out) rm -f "$board/dev/mmcblk0p1" ;;
             *) echo "usage: ./desk.sh card in|out" >&2; exit 2 ;;
         esac ;;
-    *) sed -n '2,9s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+    *) sed -n '2,12s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
 esac
