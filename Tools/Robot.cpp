@@ -237,7 +237,9 @@ bool TypeOnScreen(const QString& text)
                 key = "button501";
                 return;
             }
-            const QWidget* window = TopWindow();
+            // Names may be offered above the keyboard.
+            const QWidget* modal = QApplication::activeModalWidget();
+            const QWidget* window = modal ? modal : TopWindow();
             for (const QAbstractButton* button : window ? window->findChildren<QAbstractButton*>() : QList<QAbstractButton*>()) {
                 if (button->text() == QString(letter) && button->isVisible()) {
                     key = button->objectName().toLatin1();
