@@ -1,0 +1,196 @@
+#include "Dialogs/DlgKeyboard.h"
+
+#include "Dialogs/DlgNameList.h"
+#include "DialogTesting.h"
+#include "RRx/RRFile.h"
+
+#include <QAbstractItemView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWindow>
+
+namespace {
+
+const char* const file = "/mnt/sdcard-i/Settings/MeaNameList.csv";
+
+class Keyboard : public DialogTest {
+protected:
+    void SetUp() override
+    {
+        DialogTest::SetUp();
+        RR::DIR_Create("/mnt/sdcard-i/Settings");
+        Store({"OLD 1", "OLD 2"});
+    }
+
+    static void Store(const QStringList& names) { EXPECT_TRUE(DlgNameList::SaveNameList(file, names)); }
+    /// What the next start of the program finds.
+    static QStringList Stored()
+    {
+        QStringList names;
+        DlgNameList::LoadNameList(file, names);
+        return names;
+    }
+
+    void Use(const QString& former, const std::function<void()>& touches)
+    {
+        word = former;
+        Robot::Meanwhile user([&] {
+            EXPECT_TRUE(Robot::WaitForShown("lineEdit"));
+            touches();
+        });
+        accepted = DlgKeyboard::Show("Name", word, 40);
+    }
+    static void Press(std::initializer_list<const char*> buttons)
+    {
+        for (const char* button : buttons) {
+            EXPECT_TRUE(Robot::Click(button)) << button;
+        }
+    }
+    static QString Line() { return Robot::TextOf("lineEdit"); }
+
+    QString word;
+    bool accepted = false;
+};
+
+TEST_F(Keyboard, EditsAtTheCursorAndKeepsTheFocusInTheLine)
+{
+    Use("FORMER", [] {
+        Press({"buttonClr"});
+        EXPECT_TRUE(Robot::TypeOnScreen(QString::fromUtf8("AB 1_Ü")));
+        Press({"buttonDel", "buttonDel", "buttonLeft", "buttonLeft", "button403"});
+        EXPECT_EQ(Line(), "ABC 1");
+        Press({"buttonRight", "button501", "buttonRight", "button410"});
+        EXPECT_EQ(Line(), "ABC  1-");
+        QString focus;
+        Robot::OnGui([&] { focus = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
+        EXPECT_EQ(focus, "lineEdit");
+        Press({"buttonOk"});
+    });
+    EXPECT_TRUE(accepted);
+    EXPECT_EQ(word, "ABC  1-");
+}
+
+TEST_F(Keyboard, TypesWhatItsKeysShowInEachLanguage)
+{
+    static const struct {
+        const char* language;
+        const char* key;
+        const char* typed;
+    } rows[] = {
+        {"DE", "button206", "Z"}, {"UK", "button206", "Y"}, {"US", "button310", "="}, {"BR", "button111", "Ç"}, {"CZ", "button408", ","},
+        {"ES", "button312", "}"}, {"FI", "button401", "Y"}, {"FR", "button401", "Y"}, {"FR", "button212", ")"}, {"IT", "button401", "Z"},
+        {"JP", "button211", "("}, {"KR", "button410", "\""}, {"KR", "button409", "'"}, {"PL", "button111", "ß"}, {"RU", "button206", "Z"},
+        {"VN", "button401", "Z"}, {"CN", "button311", "操作者"},
+    };
+    QString expected;
+    Use("", [&] {
+        for (const auto& row : rows) {
+            Robot::OnGui([&] { EXPECT_TRUE(SelectLanguage(row.language)) << row.language; });
+            Press({row.key});
+            expected += QString::fromUtf8(row.typed);
+            EXPECT_EQ(Line(), expected) << row.language;
+        }
+        EXPECT_EQ(Robot::TextOf("headerTxt"), "Name");
+        Press({"buttonOk"});
+    });
+    EXPECT_EQ(word, expected);
+}
+
+TEST_F(Keyboard, PutsAcceptedWordsAtTheHeadOfTheFile)
+{
+    QStringList names;
+    for (int i = 0; i < 500; ++i) {
+        names.append(QStringLiteral("N%1").arg(i));
+    }
+    Store(names);
+    Use("", [] {
+        EXPECT_TRUE(Robot::TypeOnScreen("NEW"));
+        Press({"buttonOk"});
+    });
+    names.prepend("NEW");
+    names.removeLast();
+    EXPECT_EQ(Stored(), names);
+
+    Use("N7", [] { Press({"buttonOk"}); });
+    names.move(names.indexOf("N7"), 0);
+    EXPECT_EQ(Stored(), names);
+
+    Use(QString(50, 'W'), [] {
+        Press({"button101"});
+        EXPECT_EQ(Line(), QString(40, 'W'));
+        Press({"buttonOk"});
+    });
+    EXPECT_EQ(word, QString(40, 'W'));
+    EXPECT_EQ(Stored().first(), word);
+
+    names = Stored();
+    Use("FORMER", [] {
+        EXPECT_TRUE(Robot::TypeOnScreen("X"));
+        Press({"buttonCancel"});
+    });
+    EXPECT_FALSE(accepted);
+    EXPECT_EQ(word, "FORMER");
+    EXPECT_EQ(Stored(), names);
+}
+
+TEST_F(Keyboard, TakesNamesFromTheList)
+{
+    for (const char* end : {"buttonCancel", "buttonOk"}) {
+        Use("FORMER", [&] {
+            Press({"buttonList", "buttonClose"});
+            EXPECT_TRUE(Robot::WaitForShown("lineEdit"));
+            EXPECT_EQ(Line(), "");
+            Press({"buttonList"});
+            EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 1"));
+            Press({"deleteEntry", "buttonAccept"});
+            EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 2"));
+            Press({"buttonApply", end});
+        });
+        EXPECT_EQ(word, accepted ? "OLD 2" : "FORMER");
+        EXPECT_EQ(Stored(), accepted ? QStringList{"OLD 2"} : (QStringList{"OLD 1", "OLD 2"}));
+    }
+    EXPECT_TRUE(accepted);
+}
+
+/// Touches the glass in the middle of a widget, whichever window stands there.
+void Touch(QWidget* widget, const QRect& part)
+{
+    QTest::mouseClick(widget->window()->windowHandle(), Qt::LeftButton, {}, widget->mapTo(widget->window(), part.center()));
+}
+
+TEST_F(Keyboard, OffersNamesToAFingerWithoutStandingInItsWay)
+{
+    Store({"STATION", "ST_2", "STAR", "A"});
+    const auto popup = [] { return QApplication::activePopupWidget(); };
+    Use("", [&] {
+        Press({"button302"});
+        EXPECT_TRUE(Robot::WaitFor([&] { return popup() != nullptr; }));
+        Robot::OnGui([&] {
+            const auto* rows = qobject_cast<QAbstractItemView*>(popup());
+            ASSERT_TRUE(rows);
+            EXPECT_EQ(rows->model()->rowCount(), 3);
+            EXPECT_GE(rows->visualRect(rows->model()->index(0, 0)).height(), 44);
+            const QWidget* dialog = QApplication::activeModalWidget();
+            for (const QWidget* key : dialog->findChildren<QPushButton*>()) {
+                EXPECT_FALSE(rows->geometry().intersects(QRect(key->mapToGlobal(QPoint()), key->size())));
+            }
+            Touch(dialog->findChild<QWidget*>("button205"), QRect(0, 0, 40, 40));
+        });
+        EXPECT_TRUE(Robot::WaitFor([] {
+            const auto* line = QApplication::activeModalWidget()->findChild<QLineEdit*>("lineEdit");
+            return line->text() == "ST";
+        })) << "the first touch beside the names is lost";
+        Press({"button408"});
+        EXPECT_TRUE(Robot::WaitFor([&] { return popup() && qobject_cast<QAbstractItemView*>(popup())->model()->rowCount() == 1; }));
+        Robot::OnGui([&] {
+            auto* rows = qobject_cast<QAbstractItemView*>(popup());
+            Touch(rows->viewport(), rows->visualRect(rows->model()->index(0, 0)));
+        });
+        EXPECT_TRUE(Robot::WaitFor([&] { return !popup(); }));
+        EXPECT_EQ(Line(), "ST_2");
+        Press({"buttonOk"});
+    });
+    EXPECT_EQ(word, "ST_2");
+}
+
+}

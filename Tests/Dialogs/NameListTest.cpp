@@ -1,0 +1,240 @@
+#include "Dialogs/DlgNameList.h"
+
+#include "Board/Board.h"
+#include "DialogTesting.h"
+#include "RRx/RRFile.h"
+
+#include <QTextDocument>
+#include <filesystem>
+#include <fstream>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const char* const file = "/names.csv";
+
+QStringList Loaded(const QByteArray& content)
+{
+    QStringList names{"former"};
+    EXPECT_TRUE(RR::FILE_Write(file, reinterpret_cast<const RR::UInt08*>(content.constData()), static_cast<RR::SInt32>(content.size())));
+    EXPECT_TRUE(DlgNameList::LoadNameList(file, names));
+    return names;
+}
+
+QByteArray Saved(const QStringList& names)
+{
+    RR::Array<RR::UInt08> content;
+    EXPECT_TRUE(DlgNameList::SaveNameList(file, names) && RR::FILE_Read(file, content));
+    return QByteArray(reinterpret_cast<const char*>(content.Adr()), content.GetSize());
+}
+
+QStringList Numbered(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i) {
+        names.append(QStringLiteral("N%1").arg(i));
+    }
+    return names;
+}
+
+TEST(NameListFile, IsReadInEveryFormAndWrittenInOne)
+{
+    using namespace Qt::StringLiterals;
+    const QString text = u"\uFEFF\"A b\";b,\"C:*/\\?=\"\r\nÄ\n"_s;
+    QByteArray little(reinterpret_cast<const char*>(text.utf16()), 2 * text.size());
+    QByteArray big = little;
+    for (qsizetype i = 0; i < big.size(); i += 2) {
+        std::swap(big[i], big[i + 1]);
+    }
+    const QStringList expected{"A B", "B", "C______", u"Ä"_s};
+    EXPECT_EQ(Loaded(little), expected);
+    EXPECT_EQ(Loaded(big), expected);
+    EXPECT_EQ(Loaded(big + 'x'), expected);
+    EXPECT_EQ(Loaded(text.mid(1).toLatin1()), expected);
+
+    static const struct {
+        QByteArray content;
+        QStringList names;
+    } rows[] = {
+        {"", {}},          {"x", {"X"}},         {"\xFF\xFE", {}},          {QByteArray("\xFE\xFF\0A", 4), {"A"}},
+        {",;\r\n,", {}},   {"a\nA\na ", {"A"}},  {"\"\"a\" b\"\"", {"A\" B"}}, {" \t\"\" \xA0,x\t y", {"X Y"}},
+        {QByteArray("a\0b,c", 5), {"AB", "C"}},  {"<b>%1</b>", {"<B>%1<_B>"}},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(Loaded(row.content), row.names) << row.content.toHex().constData();
+    }
+
+    EXPECT_EQ(Saved({"A", "B"}), QByteArray("\xFF\xFE\"\0A\0\"\0,\0\"\0B\0\"\0", 16));
+    EXPECT_EQ(Saved({}), "\xFF\xFE");
+}
+
+TEST(NameListFile, LimitsTheListAndNotTheUser)
+{
+    QString told;
+    QStringList names;
+    {
+        Robot::Meanwhile user([&] {
+            EXPECT_TRUE(Robot::WaitForShown("buttonClose"));
+            told = Robot::TextOf("body");
+            Robot::Click("buttonClose");
+        });
+        names = Loaded(Numbered(600).join(',').toLatin1());
+    }
+    EXPECT_EQ(names, Numbered(500));
+    EXPECT_TRUE(told.contains("500"));
+
+    // Quadratic work would take minutes on these.
+    QElapsedTimer elapsed;
+    elapsed.start();
+    EXPECT_EQ(Loaded((Numbered(500).join(',') + ',').repeated(200).toLatin1()).size(), 500);
+    EXPECT_EQ(Loaded(QByteArray(1 << 20, '"') + QByteArray(1 << 20, 'w')).first().size(), 1 << 20);
+    EXPECT_LT(elapsed.elapsed(), 5000);
+
+    EXPECT_FALSE(DlgNameList::LoadNameList("/no/such/file.csv", names));
+    EXPECT_TRUE(names.isEmpty());
+}
+
+class NameList : public DialogTest {
+protected:
+    void SetUp() override
+    {
+        DialogTest::SetUp();
+        std::ofstream(Board::Root() + "/dev/sda1").close();
+        fs::remove_all(stick);
+        fs::create_directories(stick);
+    }
+    void TearDown() override { fs::remove(Board::Root() + "/dev/sda1"); }
+
+    void Use(const std::function<void()>& steps)
+    {
+        Robot::Meanwhile user([&] {
+            EXPECT_TRUE(Robot::WaitForShown("nameList"));
+            steps();
+        });
+        accepted = DlgNameList::Show(list, word);
+    }
+    static void Confirm(const char* button, const char* answer = "buttonAccept")
+    {
+        EXPECT_TRUE(Robot::Click(button)) << button;
+        EXPECT_TRUE(Robot::Click(answer)) << button;
+    }
+    /// Closes the statement on top and returns what the user could read there.
+    static QString Read()
+    {
+        EXPECT_TRUE(Robot::WaitForShown("body"));
+        const QString shown = Robot::TextOf("body");
+        Robot::Click("buttonClose");
+        // Another statement may follow.
+        Robot::WaitFor([&] { return Robot::TextOf("body") != shown; });
+        QString text = shown;
+        if (Qt::mightBeRichText(text)) {
+            QTextDocument page;
+            page.setHtml(text);
+            text = page.toPlainText();
+        }
+        return text;
+    }
+
+    const fs::path stick = fs::path(Board::Root()) / "usb-stick";
+    QStringList list;
+    QString word = "former";
+    bool accepted = false;
+};
+
+TEST_F(NameList, HandsBackWhatTheUserTapsAndNothingElse)
+{
+    list = {"ONE", "TWO", "<I>THREE"};
+    Use([] {
+        EXPECT_TRUE(Robot::IsShown("buttonClose") && !Robot::IsShown("buttonApply") && !Robot::IsShown("buttonDeny"));
+        EXPECT_FALSE(Robot::IsEnabled("deleteEntry"));
+        Robot::Click("buttonClose");
+    });
+    EXPECT_TRUE(accepted && word.isEmpty());
+
+    Use([] {
+        Robot::ClickRow("nameList", "TWO");
+        Confirm("deleteEntry", "buttonReject");
+        EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(3)");
+        Confirm("deleteEntry");
+        EXPECT_TRUE(Robot::WaitForShown("headerTxtNum"));
+        EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(2)");
+        Robot::Click("buttonDeny");
+    });
+    EXPECT_FALSE(accepted);
+    EXPECT_TRUE(word.isEmpty());
+    EXPECT_EQ(list.size(), 3);
+
+    Use([] {
+        Robot::ClickRow("nameList", "TWO");
+        Confirm("deleteEntry");
+        Robot::ClickRow("nameList", "<I>THREE");
+        Robot::Click("buttonApply");
+    });
+    EXPECT_EQ(list, (QStringList{"ONE", "<I>THREE"}));
+    EXPECT_EQ(word, "<I>THREE");
+
+    Use([] {
+        Confirm("deleteList");
+        EXPECT_TRUE(Robot::WaitForShown("buttonApply"));
+        EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(0)");
+        for (const char* button : {"deleteEntry", "exportList", "deleteList"}) {
+            EXPECT_FALSE(Robot::IsEnabled(button)) << button;
+        }
+        Robot::Click("buttonApply");
+    });
+    EXPECT_TRUE(accepted && list.isEmpty() && word.isEmpty());
+}
+
+TEST_F(NameList, ComesBackFromAStickAsItWas)
+{
+    list = {"ZETA 40", "ALPHA \"1\" 2", QString::fromUtf8("ÄÖ %1 <B>")};
+    QStringList sorted = list;
+    sorted.sort();
+    Use([] {
+        Confirm("exportList");
+        EXPECT_EQ(Read(), "Kopiervorgang abgeschlossen");
+        Confirm("deleteList");
+        Confirm("importList");
+        EXPECT_TRUE(Robot::ClickRow("fileNameList", "MeaNameList.csv"));
+        Robot::Click("buttonOk");
+        EXPECT_EQ(Read(), QString::fromUtf8("3 Einträge gefunden"));
+        EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(3)");
+        Robot::Click("buttonApply");
+    });
+    EXPECT_EQ(list, sorted);
+    EXPECT_FALSE(RR::FILE_IsPresent("/mnt/usb-storage/MeaNameList.csv")) << "still mounted";
+}
+
+TEST_F(NameList, LosesNothingWhenAStickFails)
+{
+    list = {"ONE", "TWO"};
+    Use([&] {
+        Confirm("importList");
+        EXPECT_EQ(Read(), "Keine Datei mit Endung \".csv\" vorgefunden");
+
+        fs::create_symlink("/nowhere", stick / "<i>100%1 \"&lt;.csv");
+        Confirm("importList");
+        EXPECT_TRUE(Robot::ClickRow("fileNameList", "<i>100%1 \"&lt;.csv"));
+        Robot::Click("buttonOk");
+        EXPECT_EQ(Read(), "Datei \"<i>100%1 \"&lt;.csv\" kann nicht gelesen werden");
+        EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(2)");
+
+        fs::create_symlink("/dev/full", stick / "MeaNameList.csv");
+        Confirm("exportList");
+        EXPECT_EQ(Read(), QString::fromUtf8("Wechseldatenträger ist voll"));
+        EXPECT_EQ(Read(), "Kopiervorgang fehlgeschlagen");
+
+        fs::remove_all(stick);
+        Confirm("importList");
+        EXPECT_TRUE(Read().startsWith("Fehler ...\n\nInhalt"));
+        Confirm("exportList");
+        EXPECT_EQ(Read(), "Kopiervorgang fehlgeschlagen");
+        EXPECT_TRUE(Robot::ClickRow("nameList", "TWO"));
+        Robot::Click("buttonApply");
+    });
+    EXPECT_EQ(list, (QStringList{"ONE", "TWO"}));
+    EXPECT_EQ(word, "TWO");
+}
+
+}
