@@ -22,12 +22,17 @@ const char* const languages[] = {"DE", "BR", "CN", "CZ", "ES", "FI", "FR", "IT",
 
 QString outFolder = QStringLiteral("out/gallery");
 
-/// The dialog where it stands on the screen.
+/// The dialog where it stands on the screen, and what has popped up above it.
 void SavePicture(QWidget& dialog, const QString& file)
 {
     QImage picture(dialog.screen()->size(), QImage::Format_RGB32);
     picture.fill(QColor(120, 130, 140));
-    QPainter(&picture).drawPixmap(dialog.pos(), dialog.grab());
+    QPainter painter(&picture);
+    painter.drawPixmap(dialog.pos(), dialog.grab());
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        painter.drawPixmap(popup->pos(), popup->grab());
+    }
+    painter.end();
     picture.save(file);
 }
 

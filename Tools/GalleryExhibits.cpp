@@ -1,11 +1,16 @@
 #include "Dialogs/DlgError.h"
 #include "Dialogs/DlgFileList.h"
+#include "Dialogs/DlgKeyboard.h"
 #include "Dialogs/DlgLowBatt.h"
+#include "Dialogs/DlgNameList.h"
 #include "Dialogs/DlgPlugUsbDev.h"
 #include "Dialogs/DlgQuestion.h"
 #include "Dialogs/DlgShutdown.h"
 #include "Dialogs/DlgStatement.h"
+#include "Config.h"
 #include "Gallery.h"
+#include "RRx/RRFile.h"
+#include "Robot.h"
 
 #include <QStringList>
 
@@ -35,6 +40,35 @@ QStringList HostileNames()
 {
     return {QStringLiteral("<b>bold</b><img src=\"x\">.csv"), QStringLiteral("%1 %s %n 100 %.csv"), QStringLiteral("\"quotes\" & <p> 'more'.csv"),
             QString(40, 'W') + QStringLiteral(".csv"), QString(40, 'i') + QStringLiteral(".csv"), QStringLiteral("../../etc/passwd")};
+}
+
+QStringList MeasurementNames(int count)
+{
+    QStringList names;
+    for (int i = 1; i <= count; ++i) {
+        names.append(QStringLiteral("SCHALTFELD %1 SAMMELSCHIENE %2").arg(i, 3, 10, QLatin1Char('0')).arg(i % 3));
+    }
+    return names;
+}
+
+QStringList LongNames()
+{
+    return {QString(40, 'W'), QString(40, 'I'), QStringLiteral("STATION NORD FELD 12 SAMMELSCHIENE L1-L3"),
+            QStringLiteral("<B>%1 \"QUOTED\" & 100 %<P>"), QString(100000, 'X')};
+}
+
+void ShowNames(QStringList names)
+{
+    QString chosen;
+    DlgNameList::Show(names, chosen);
+}
+
+/// On a card that holds `names` from earlier measurements.
+void ShowKeyboard(QString word, const QStringList& names)
+{
+    RR::DIR_Create(CFG::MeaNameListPath);
+    DlgNameList::SaveNameList(RR::PATH_Merge(CFG::MeaNameListPath, CFG::MeaNameListFile), names);
+    DlgKeyboard::Show(Said("Name der Messung oder Messstelle", "Name of measurement or measurement point"), word, 40);
 }
 
 void ShowFileList(const QStringList& names)
@@ -101,6 +135,20 @@ std::vector<Exhibit> Exhibits()
         {"DlgFileList-many", EXTREME, [] { ShowFileList(FileNames(100)); }},
         {"DlgFileList-hostile", EXTREME, [] { ShowFileList(HostileNames()); }},
         {"DlgFileList-empty", EXTREME, [] { ShowFileList({}); }},
+        {"DlgKeyboard", TYPICAL, [] { ShowKeyboard(QStringLiteral("SCHALTFELD 7"), {}); }},
+        {"DlgKeyboard-offers", TYPICAL, [] { ShowKeyboard(QString(), MeasurementNames(7)); }, [] { Robot::TypeOnScreen(QStringLiteral("SC")); }},
+        {"DlgKeyboard-offers-long", EXTREME, [] { ShowKeyboard(QString(), LongNames()); }, [] { Robot::TypeOnScreen(QStringLiteral("W")); }},
+        {"DlgKeyboard-long", EXTREME, [] { ShowKeyboard(LongNames().first(), {}); }},
+        {"DlgNameList-empty", TYPICAL, [] { ShowNames({}); }},
+        {"DlgNameList", TYPICAL, [] { ShowNames(MeasurementNames(7)); }, [] { Robot::ClickRow("nameList", MeasurementNames(7)[1]); }},
+        {"DlgNameList-many", EXTREME, [] { ShowNames(MeasurementNames(500)); }},
+        {"DlgNameList-long", EXTREME, [] { ShowNames(LongNames()); }},
+        {"DlgNameList-delete", EXTREME, [] { ShowNames(LongNames()); },
+         [] {
+             Robot::ClickRow("nameList", LongNames()[3]);
+             Robot::Click("deleteEntry");
+             Robot::WaitForShown("body");
+         }},
         {"DlgPlugUsbDev", TYPICAL,
          [] {
              RR::String mountPoint;
