@@ -388,4 +388,19 @@ No access to USB storage device</translation>
         <translation>Close</translation>
     </message>
 </context>
+<context>
+    <name>MeaTable</name>
+    <message>
+        <source>heute</source>
+        <translation>today</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+</context>
 </TS>
