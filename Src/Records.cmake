@@ -1,3 +1,3 @@
 zarn_layer(records
-  SOURCES Mea.cpp MeaFile.cpp MeaExport.cpp
-  LINK system)
+  SOURCES Mea.cpp MeaFile.cpp MeaExport.cpp MeaHeader.cpp MeaTable.cpp
+  LINK system Qt6::Gui)
