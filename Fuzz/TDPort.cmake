@@ -1,0 +1,1 @@
+zarn_fuzz(tdport SOURCES FuzzTDPort.cpp LINK link)
