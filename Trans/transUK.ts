@@ -389,6 +389,226 @@ No access to USB storage device</translation>
     </message>
 </context>
 <context>
+    <name>JobStateMachine</name>
+    <message>
+        <source>Messwertaufnahme</source>
+        <translation>Recording measured values</translation>
+    </message>
+    <message>
+        <source>Ventil-Fehler</source>
+        <translation>Valve failure</translation>
+    </message>
+    <message>
+        <source>Kompressor-Fehler</source>
+        <translation>Compressor failure</translation>
+    </message>
+    <message>
+        <source>Drucksensor fehlerhaft</source>
+        <translation>Pressure sensor failure</translation>
+    </message>
+    <message>
+        <source>Fehler in Depot-Einheit</source>
+        <translation>Failure in storage compartment unit</translation>
+    </message>
+    <message>
+        <source>Gasdepot zu voll</source>
+        <translation>No space left in storage compartment</translation>
+    </message>
+    <message>
+        <source>Eingangsdruck zu niedrig</source>
+        <translation>Low inlet pressure</translation>
+    </message>
+    <message>
+        <source>Eingangsdruck zu hoch</source>
+        <translation>High inlet pressure</translation>
+    </message>
+    <message>
+        <source>Eingangsdruck zu hoch für Rückpumpvorgang</source>
+        <translation>Inlet pressure too high for pump back procedure</translation>
+    </message>
+    <message>
+        <source>Gegendruck zu niedrig</source>
+        <translation>Low back pressure</translation>
+    </message>
+    <message>
+        <source>Gegendruck zu hoch</source>
+        <translation>High back pressure</translation>
+    </message>
+    <message>
+        <source>Betriebsdruck zu niedrig</source>
+        <translation>Low operation pressure</translation>
+    </message>
+    <message>
+        <source>Betriebsdruck zu hoch</source>
+        <translation>High operation pressure</translation>
+    </message>
+    <message>
+        <source>Depotdruck zu niedrig</source>
+        <translation>Low storage compartment pressure</translation>
+    </message>
+    <message>
+        <source>Depotdruck zu hoch</source>
+        <translation>High storage compartment pressure</translation>
+    </message>
+    <message>
+        <source>Zeitüberschreitung bei Rückpumpvorgang</source>
+        <translation>Pump back procedure timout</translation>
+    </message>
+    <message>
+        <source>Zeitüberschreitung bei Druckausgleich</source>
+        <translation>Pressure compensation timeout</translation>
+    </message>
+    <message>
+        <source>k.a.</source>
+        <translation>n/a</translation>
+    </message>
+    <message>
+        <source>Feuchtesensor fehlerhaft</source>
+        <translation>Humidity sensor failure</translation>
+    </message>
+    <message>
+        <source>Bereitstellung ist fehlgeschlagen</source>
+        <translation>Preparation failure</translation>
+    </message>
+    <message>
+        <source>Gas stark kontaminiert
+Selbstreinigung wurde eingeleitet</source>
+        <translation>Gas heavily contaminated
+Self-purification process was initiated</translation>
+    </message>
+    <message>
+        <source>Druckausgleich</source>
+        <translation>Compensating pressure</translation>
+    </message>
+</context>
+<context>
+    <name>Mea</name>
+    <message>
+        <source>MESSUNG %1</source>
+        <translation>MEASUREMENT %1</translation>
+    </message>
+    <message>
+        <source>Allgemein</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Zeit</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Temperatur</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <source>Luftfeuchte</source>
+        <translation>Air humidity</translation>
+    </message>
+    <message>
+        <source>Luftdruck</source>
+        <translation>Air pressure</translation>
+    </message>
+    <message>
+        <source>Durchflussdauer</source>
+        <translation>Flow duration</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>Auswertung</source>
+        <translation>Analysis</translation>
+    </message>
+    <message>
+        <source>Feuchte</source>
+        <translation>Humidity</translation>
+    </message>
+    <message>
+        <source>Ergebnis</source>
+        <translation>Result</translation>
+    </message>
+    <message>
+        <source>Sens.werte</source>
+        <translation>Sens. values</translation>
+    </message>
+    <message>
+        <source>Sensorwerte</source>
+        <translation>Sensor values</translation>
+    </message>
+    <message>
+        <source>Druck</source>
+        <translation>Pressure</translation>
+    </message>
+    <message>
+        <source>Gasraum</source>
+        <translation>Compartment</translation>
+    </message>
+    <message>
+        <source>Einlass</source>
+        <translation>Inlet</translation>
+    </message>
+    <message>
+        <source>Gegen</source>
+        <translation>Back</translation>
+    </message>
+    <message>
+        <source>Betrieb</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>Depot</source>
+        <translation>Storage comp.</translation>
+    </message>
+    <message>
+        <source>Grenzen</source>
+        <translation>Limits</translation>
+    </message>
+    <message>
+        <source>Min.</source>
+        <translation>Min.</translation>
+    </message>
+    <message>
+        <source>Max.</source>
+        <translation>Max.</translation>
+    </message>
+    <message>
+        <source>Max. Feuchte</source>
+        <translation>Max. humidity</translation>
+    </message>
+    <message>
+        <source>Sonstige</source>
+        <translation>Miscellaneous</translation>
+    </message>
+    <message>
+        <source>HMI-Anw.</source>
+        <translation>HMI-application</translation>
+    </message>
+    <message>
+        <source>HMI-Board</source>
+        <translation>HMI-board</translation>
+    </message>
+    <message>
+        <source>TDev-Anw.</source>
+        <translation>TDev-Appl.</translation>
+    </message>
+    <message>
+        <source>TDev-Board</source>
+        <translation>TDev-Board</translation>
+    </message>
+    <message>
+        <source>Sektion</source>
+        <translation>Section</translation>
+    </message>
+</context>
+<context>
     <name>MeaTable</name>
     <message>
         <source>heute</source>
@@ -401,6 +621,148 @@ No access to USB storage device</translation>
     <message>
         <source>Name</source>
         <translation>Name</translation>
+    </message>
+</context>
+<context>
+    <name>PrintIt</name>
+    <message>
+        <source>Bestanden</source>
+        <translation>Passed</translation>
+    </message>
+    <message>
+        <source>Nicht bestanden</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>n.v.</source>
+        <translation>n/a</translation>
+    </message>
+    <message>
+        <source>&gt; Max.</source>
+        <translation>&gt; Max.</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>&lt; Min.</source>
+        <translation>&lt; Min.</translation>
+    </message>
+</context>
+<context>
+    <name>WndMain</name>
+    <message>
+        <source>Feuchte</source>
+        <translation>Humidity</translation>
+    </message>
+    <message>
+        <source>Einlassdruck</source>
+        <translation>Inlet pressure</translation>
+    </message>
+    <message>
+        <source>Depot</source>
+        <translation>Storage</translation>
+    </message>
+    <message>
+        <source>Messung</source>
+        <translation>Measurement</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Ausschalten</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>Interne Speicherkarte fehlt oder ist fehlerhaft</source>
+        <translation>Internal memory card missing or damaged</translation>
+    </message>
+    <message>
+        <source>Interne Speicherkarte: Zugriffsfehler</source>
+        <translation>Internal memory card: access error</translation>
+    </message>
+    <message>
+        <source>UNBENANNT</source>
+        <translation>UNNAMED</translation>
+    </message>
+    <message>
+        <source>Messung gestartet</source>
+        <translation>Measurement initiated</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang gestartet</source>
+        <translation>Pump back process started</translation>
+    </message>
+    <message>
+        <source>Depotleerung gestartet</source>
+        <translation>Storage emptying started</translation>
+    </message>
+    <message>
+        <source>Bereitschaft herstellen</source>
+        <translation>Prepare for use</translation>
+    </message>
+    <message>
+        <source>Messung abgeschlossen</source>
+        <translation>Measurement completed</translation>
+    </message>
+    <message>
+        <source>Messung abgebrochen</source>
+        <translation>Measurement aborted</translation>
+    </message>
+    <message>
+        <source>Messung abgebrochen!
+
+</source>
+        <translation>Measurement aborted!
+
+</translation>
+    </message>
+    <message>
+        <source>Messung gespeichert</source>
+        <translation>Measurement saved</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Fehler ...&lt;/b&gt;&lt;br&gt;Messung konnte nicht gespeichert werden.</source>
+        <translation>&lt;b&gt;Error ...&lt;/b&gt;&lt;br&gt;Measurement could not be saved.</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang abgeschlossen</source>
+        <translation>Pump back process completed</translation>
+    </message>
+    <message>
+        <source>Depotleerung abgeschlossen</source>
+        <translation>Storage emptying completed</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang abgebrochen</source>
+        <translation>Pump back process aborted</translation>
+    </message>
+    <message>
+        <source>Depotleerung abgebrochen</source>
+        <translation>Storage emptying aborted</translation>
+    </message>
+    <message>
+        <source>Gerät nur eingeschränkt betriebsbereit</source>
+        <translation>Device operation restricted</translation>
+    </message>
+    <message>
+        <source>Gerät betriebsbereit</source>
+        <translation>Device ready for use</translation>
+    </message>
+    <message>
+        <source>Gerät nicht betriebsbereit</source>
+        <translation>Device inoperable</translation>
+    </message>
+    <message>
+        <source>Sensoreinheit ausgefallen</source>
+        <translation>Sensor unit failed</translation>
+    </message>
+    <message>
+        <source>Sensoreinheit wieder in Betrieb</source>
+        <translation>Sensor unit recovered</translation>
     </message>
 </context>
 </TS>
