@@ -105,7 +105,7 @@ Bytes ReadPressures(const Machine& machine)
     Bytes bytes;
     for (int sensor = 0; sensor < PRESSURE_NUM; sensor++) {
         const bool bad = machine.faults.pressureFailing[std::size_t(sensor)];
-        const std::int32_t drift = std::int32_t(machine.faults.pressureOffset[std::size_t(sensor)] * 1000);
+        const std::int32_t drift = std::int32_t(std::lround(machine.faults.pressureOffset[std::size_t(sensor)] * 1000));
         Append(bytes, std::uint32_t(bad ? noValue : machine.sensors.Pressure(PressureSensor(sensor)) + drift), 4);
     }
     return bytes;

@@ -20,17 +20,18 @@ struct Model {
     std::int16_t expectancyDays, validityDays;
     double secondsLag; ///< time constant
     double noise;      ///< greatest deviation, in the unit
+    double detection;  ///< the least amount that the sensor tells from none
 };
 
 constexpr Model models[SENSOR_NUM] = {
-    {0x21, 0, UNIT_PERCENT, 0, 100, "SF0417", 3650, 730, 3, 0.02},
-    {0x13, 0, UNIT_PPMV, 0, 100, "SO2231", 1095, 730, 3, 0.05},
-    {0x20, 0, UNIT_CELSIUS, -60, 30, "HU1180", 3650, 730, 10, 0.03},
-    {0x13, 0, UNIT_PPMV, 0, 10, "HF0652", 730, 730, 4, 0.01},
-    {0x13, 0, UNIT_PPMV, 0, 500, "CO0933", 1095, 730, 3, 0.3},
+    {0x21, 0, UNIT_PERCENT, 0, 100, "SF0417", 3650, 730, 3, 0.02, 0},
+    {0x13, 0, UNIT_PPMV, 0, 100, "SO2231", 1095, 730, 3, 0.05, 0.1},
+    {0x20, 0, UNIT_CELSIUS, -60, 30, "HU1180", 3650, 730, 10, 0.03, 0},
+    {0x13, 0, UNIT_PPMV, 0, 10, "HF0652", 730, 730, 4, 0.01, 0.05},
+    {0x13, 0, UNIT_PPMV, 0, 500, "CO0933", 1095, 730, 3, 0.3, 0.5},
     {},
-    {0x13, 0, UNIT_PPMV, 0, 100, "HS0208", 1095, 730, 3, 0.05},
-    {0x11, 0, UNIT_BAR, 0, 16, "P60071", 3650, 730, 0.2, 0.002},
+    {0x13, 0, UNIT_PPMV, 0, 100, "HS0208", 1095, 730, 3, 0.05, 0}, // drifts about zero
+    {0x11, 0, UNIT_BAR, 0, 16, "P60071", 3650, 730, 0.2, 0.002, 0},
 };
 
 constexpr std::uint8_t notFitted = 0x80;
@@ -171,7 +172,9 @@ std::int32_t Sensors::Value(Sensor sensor) const
     // An electrochemical H2S cell drifts a little below zero; all others stop at the ends of their range.
     const double lowest = SignedWord(profile, 4) - (sensor == SENSOR_H2S ? 10 : 0);
     const double highest = std::max<double>(lowest, SignedWord(profile, 6));
-    return std::int32_t(std::lround(std::clamp(shown[sensor] + noise[sensor], lowest, highest) * 1000));
+    const double reading = shown[sensor] + noise[sensor];
+    const double told = std::abs(reading) < models[sensor].detection ? 0 : reading;
+    return std::int32_t(std::lround(std::clamp(told, lowest, highest) * 1000));
 }
 
 }

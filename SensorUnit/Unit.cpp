@@ -169,15 +169,15 @@ std::optional<std::string> Unit::Serve(const Request& request, Micros now)
     default:
         break;
     }
-    if (mode != MODE_APPLICATION) {
-        return std::nullopt;
-    }
     if (service == SERVICE_POWERDOWN) {
         if (request.data[0] != offCommand) {
             return std::nullopt;
         }
         PowerOff();
         return FormatResponse(request, nullptr);
+    }
+    if (mode != MODE_APPLICATION) {
+        return std::nullopt;
     }
     if (!request.write) {
         return FormatResponse(request, registers.Read(service).data() + (request.location - EntryOf(service).location));

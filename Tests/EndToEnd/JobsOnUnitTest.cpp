@@ -57,6 +57,15 @@ struct JobsOnUnit : testing::Test {
         return jobSTM.GetSnapshot().stopCause;
     }
 
+    /// What the last record holds, for the reader of a failure.
+    static std::string Readings()
+    {
+        const Mea& mea = jobSTM.GetMea();
+        return "SF6 " + std::to_string(mea.amountSF6.ToDouble()) + " SO2 " + std::to_string(mea.amountSO2.ToDouble())
+            + " dew point " + std::to_string(mea.humidity[Humidity::CELS].ToDouble()) + " HF "
+            + std::to_string(mea.amountHF.ToDouble());
+    }
+
     /// Opens the way from the compartment to `last`, and shuts it again after `seconds`.
     void LetGasIn(std::vector<TavorDev::Valve> valves, int seconds)
     {
@@ -73,13 +82,13 @@ struct JobsOnUnit : testing::Test {
 TEST_F(JobsOnUnit, MeasurementsAndTransfersEndProperlyOnAHealthyUnit)
 {
     EXPECT_EQ(Run(Jobs::TYPE_B), Jobs::H00);
-    EXPECT_EQ(jobSTM.GetMea().result, Mea::PASSED);
+    EXPECT_EQ(jobSTM.GetMea().result, Mea::PASSED) << Readings();
     EXPECT_EQ(Run(Jobs::TYPE_F), Jobs::H00);
     EXPECT_EQ(Run(Jobs::TYPE_D), Jobs::H00);
     EXPECT_EQ(Run(Jobs::TYPE_F), Jobs::H00);
     Tell("set port3 container 0");
     EXPECT_EQ(Run(Jobs::TYPE_C), Jobs::H00);
-    EXPECT_EQ(jobSTM.GetMea().result, Mea::PASSED);
+    EXPECT_EQ(jobSTM.GetMea().result, Mea::PASSED) << Readings();
 }
 
 TEST_F(JobsOnUnit, EmptyingAndPreparationEndProperlyOnAHealthyUnit)
