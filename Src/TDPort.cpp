@@ -246,9 +246,8 @@ void TDPort::PutRequest(const TDMsg& msg) const
         Print(msg.Data()[i], end);
     }
     // A failed write shows as a missing response.
-    if (write(serFd, text, static_cast<size_t>(end - text)) < 0 || write(serFd, "\r", 1) < 0) {
-        return;
-    }
+    [[maybe_unused]] ssize_t sent = write(serFd, text, static_cast<size_t>(end - text));
+    sent = write(serFd, "\r", 1);
 }
 
 bool TDPort::GetResponse(TDMsg& msg) const

@@ -213,17 +213,18 @@ void TavorDev::TDThreadMain()
 
 void TavorDev::TDPollPass()
 {
-    TDMsg msg;
-    TDCreateReq(msg);
     {
+        // Held from the request to the cache: a command that waits for the line finds no answer still on its way.
         std::lock_guard lock(tdMutex);
         // Polling may have been switched off while this pass waited for a foreground exchange.
         if (!tdCachingEnabled) {
             return;
         }
+        TDMsg msg;
+        TDCreateReq(msg);
         port.Transceive(msg);
+        TDDeliverRsp(msg);
     }
-    TDDeliverRsp(msg);
     if (tdEventAgility > 0) {
         --tdEventAgility;
     } else if (tdChanged) {
@@ -235,7 +236,6 @@ void TavorDev::TDPollPass()
 
 void TavorDev::TDCreateReq(TDMsg& msg)
 {
-    std::lock_guard lock(tdMutex);
     if (++tdSrvIndex >= queryIndexNum) {
         tdSrvIndex = 0;
     }
@@ -246,7 +246,6 @@ void TavorDev::TDCreateReq(TDMsg& msg)
 void TavorDev::TDDeliverRsp(TDMsg& msg)
 {
     TDService* service = ChooseServiceFor(msg);
-    std::lock_guard lock(tdMutex);
     if (!service) {
         PrintSM("No service for message", msg);
     } else if (msg.IsDiscarded()) {

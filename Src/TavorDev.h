@@ -154,8 +154,8 @@ private:
     static void* TDThreadEntry(void* tavorDev);
     void TDThreadMain();
     void TDPollPass();
-    void TDCreateReq(TDMsg& msg);
-    void TDDeliverRsp(TDMsg& msg);
+    void TDCreateReq(TDMsg& msg);  ///< under `tdMutex`
+    void TDDeliverRsp(TDMsg& msg); ///< under `tdMutex`
     void AwaitEndOfPass(std::unique_lock<std::mutex>& lock) const;
     void Transceive(TDMsg& msg) const;
     void PopulateService(const TDMsg& msg) const;

@@ -73,9 +73,16 @@ void PutOptionalWord(Bytes& data, int at, SInt32 value)
     PutWord(data, at, static_cast<UInt16>(value == RR::INVALID ? noValue16 : value));
 }
 
+/// A day beyond its month is no date: `Date` alone would bring it back to the month's last day.
+Date DateOf(SInt32 day, SInt32 month, SInt32 year)
+{
+    const Date date(day, month, year);
+    return date.GetDay() == day ? date : Date();
+}
+
 Date DateAt(Bytes& data, int at)
 {
-    return Date(data[at + 3], data[at + 2], Word(data, at));
+    return DateOf(data[at + 3], data[at + 2], Word(data, at));
 }
 
 /// An invalid date goes out as all ones.
@@ -147,12 +154,7 @@ DateTime TavorDev::GetRTC() const
     if (!ReadService(srvAccRTC, data)) {
         return DateTime();
     }
-    // A day beyond its month is a clock that was never set, not the month's last day.
-    const Date date(data[3], data[2], Word(data, 0));
-    if (date.GetDay() != data[3]) {
-        return DateTime();
-    }
-    return DateTime(date, RR::Time(data[4], data[5], data[6]));
+    return DateTime(DateAt(data, 0), RR::Time(data[4], data[5], data[6]));
 }
 
 Temperature TavorDev::GetBoardTemperature() const
