@@ -213,7 +213,14 @@ QString PrintTime(const RR::Time& t, bool showSecs)
         return showSecs ? QStringLiteral("--:--:--") : QStringLiteral("--:--");
     }
     const QTime time(t.GetHour(), t.GetMinute(), t.GetSecond());
-    return GetLocal().toString(time, showSecs ? QLocale::LongFormat : QLocale::ShortFormat);
+    const QLocale locale = GetLocal();
+    if (!showSecs) {
+        return locale.toString(time, QLocale::ShortFormat);
+    }
+    // The long format also names the time zone, which a time of the instrument doesn't have.
+    QString format = locale.timeFormat(QLocale::LongFormat);
+    format.remove("(t)").remove("[t]").remove('t');
+    return locale.toString(time, format.trimmed());
 }
 
 QString PrintDayName(RR::Date::Weekday day)

@@ -97,12 +97,13 @@ TEST_F(PrintIt, TheCompartmentPressureStopsAtTheRangeOfItsSensor)
 
 TEST_F(PrintIt, DatesAndTimesFollowTheLanguage)
 {
-    for (const auto& [language, date, time, day] :
-         {std::tuple{"DE", "31.01.24", "21:05", "Mi."}, {"US", "1/31/24", "9:05 PM", "Wed"}, {"JP", "2024/01/31", "21:05", "水"}}) {
+    for (const auto& [language, date, time, longTime, day] :
+         {std::tuple{"DE", "31.01.24", "21:05", "21:05:09", "Mi."}, {"US", "1/31/24", "9:05 PM", "9:05:09 PM", "Wed"},
+             {"JP", "2024/01/31", "21:05", "21時05分09秒", "水"}}) {
         settings.applLanguage = language;
         EXPECT_EQ(PrintDate(RR::Date(31, 1, 2024)), date);
         EXPECT_EQ(PrintTime(RR::Time(21, 5, 9), false), time);
-        EXPECT_TRUE(PrintTime(RR::Time(21, 5, 9), true).contains("09"));
+        EXPECT_EQ(PrintTime(RR::Time(21, 5, 9), true), longTime);
         EXPECT_EQ(PrintDayName(RR::Date::WED), day);
     }
     EXPECT_EQ(PrintDate(RR::Date()), "--.--.--");
