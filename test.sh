@@ -7,3 +7,8 @@ need_packages build test
 cmake --preset test >/dev/null
 cmake --build --preset test
 ctest --test-dir build/test --output-on-failure -j2 "$@"
+
+# The two threads that meet in the link, under ThreadSanitizer. Its verdict is the exit status; the summary above stands.
+cmake --preset tsan >/dev/null
+cmake --build --preset tsan --target test_link
+ctest --test-dir build/tsan -R TavorDev --output-on-failure -j2
