@@ -21,9 +21,11 @@ constexpr double INVALID_DOUBLE = -2147483648.0;
 /// Ends the program with the failed condition as text. For programming errors alone, in every build.
 [[noreturn]] void AssertFailed(const char* condition, const char* file, int line);
 
-/// Writes one piece of log text in the form of `printf` to standard output, and hands it on at once.
-/// May be called from any thread.
+/// Adds a piece to the log in the form of `printf`. What a thread has added reaches standard output with the end of
+/// its line, so that lines of different threads don't mix.
 void Log(const char* format, ...) __attribute__((format(printf, 1, 2)));
+/// Hands on the line that this thread has begun.
+void LogFlush();
 
 }
 
