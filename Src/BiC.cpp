@@ -350,9 +350,11 @@ void BiC(const String& text, QString& value, const QString& fallback)
     text.Split(",", pieces, false);
     QString read;
     for (auto piece = pieces.First(); !piece.IsLast(); piece.Next()) {
-        RR::UInt16 unit = 0;
-        String::Parse(piece(), unit);
-        read += QChar(unit);
+        SInt32 unit = 0;
+        if (!String::Parse(piece(), unit)) {
+            unit = 0;
+        }
+        read += QChar(static_cast<RR::UInt16>(unit));
     }
     value = read;
 }

@@ -123,6 +123,23 @@ void ReportFailedLoad(const String& path, const KeyValue& store, SInt32 errRow, 
     }
 }
 
+template <class T>
+void ReadField(const String& text, T& value, const T& fallback)
+{
+    BiC(text, value, fallback);
+}
+
+/// A limit without any readable pressure is the factory's in all its units; the reader alone would leave out MPa.
+void ReadField(const String& text, Pressure& value, const Pressure& fallback)
+{
+    RR::FixPnt3 elements[Pressure::NUM];
+    if (BiC(text, elements, Pressure::NUM) || BiC(text, elements, Pressure::NUM - 1)) {
+        BiC(text, value, fallback);
+    } else {
+        value = fallback;
+    }
+}
+
 }
 
 const Settings Settings::def = FactoryValues();
@@ -150,7 +167,7 @@ void Settings::Load()
 
     ForEachField([&](const auto& field) {
         if (store.Has(field.key)) {
-            BiC(store(field.key), this->*field.member, def.*field.member);
+            ReadField(store(field.key), this->*field.member, def.*field.member);
         }
     });
 }

@@ -58,6 +58,10 @@ bool HasRoomFor(SInt32 bytes)
     if (bytes <= alwaysThere) {
         return true;
     }
+    // On a 32-bit board the two together must not wrap.
+    if (bytes >= INT32_MAX / 2) {
+        return false;
+    }
     // Room for both the content and a shortened copy of it.
     const std::unique_ptr<char[]> probe(new (std::nothrow) char[2 * (static_cast<std::size_t>(bytes) + 1)]);
     return probe != nullptr;

@@ -51,7 +51,7 @@ constexpr bool Scale(int src, SInt32 srcVal, int dst, SInt32& dstVal, Bias bias)
     }
 
     SInt32 v = srcVal;
-    if (!within) {
+    if (!within && src > 0) {
         // No room for the rounding term: one digit goes beforehand.
         v /= 10;
         --src;

@@ -148,12 +148,21 @@ private:
     char* at;
 };
 
+/// The text of the head without the end of its last line, which makes no further line.
+SInt32 HeadLength(const String& headline)
+{
+    const SInt32 length = headline.GetLen();
+    const char* const text = headline;
+    return length > 0 && text[length - 1] == '\n' ? length - 1 : length;
+}
+
 SInt64 CountHeadBytes(const String& headline)
 {
     const char* const text = headline;
-    const SInt64 inner = std::count(text, text + headline.GetLen(), '\n');
+    const SInt32 length = HeadLength(headline);
+    const SInt64 inner = std::count(text, text + length, '\n');
     const SInt64 framePerLine = static_cast<SInt64>(commentStart.size() + lineEnd.size());
-    return headline.IsEmpty() ? 0 : headline.GetLen() - inner + (inner + 1) * framePerLine;
+    return headline.IsEmpty() ? 0 : length - inner + (inner + 1) * framePerLine;
 }
 
 void PutHead(Writer& writer, const String& headline)
@@ -163,7 +172,7 @@ void PutHead(Writer& writer, const String& headline)
     }
     writer.Put(commentStart);
     const char* const text = headline;
-    for (SInt32 i = 0; i < headline.GetLen(); ++i) {
+    for (SInt32 i = 0; i < HeadLength(headline); ++i) {
         if (text[i] == '\n') {
             writer.Put(lineEnd);
             writer.Put(commentStart);

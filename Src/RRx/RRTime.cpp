@@ -86,7 +86,9 @@ bool Time::Import(const char* text)
         *this = Time();
         return false;
     }
-    return Set(ReadXX(text), ReadXX(text + 3), ReadXX(text + 6));
+    // Only the hour may lack its first digit.
+    const bool digitsStand = text[3] != ' ' && text[6] != ' ';
+    return Set(digitsStand ? ReadXX(text) : INVALID, ReadXX(text + 3), ReadXX(text + 6));
 }
 
 bool Time::Export(char* text) const

@@ -80,7 +80,7 @@ TEST(KeyValue, TheWritersBytesAreFixedAndReadBackEqual)
     KeyValue store;
     EXPECT_EQ(Saved(store), "");
     store.headline = "Top\n\n\344\tend\r\n";
-    EXPECT_EQ(Saved(store), "# Top\r\n# \r\n# ..end.\r\n# \r\n");
+    EXPECT_EQ(Saved(store), "# Top\r\n# \r\n# ..end.\r\n");
     EXPECT_TRUE(store("BCD", "yes"));
     EXPECT_TRUE(store("A", "1"));
     store.headline.SetEmpty();
