@@ -208,7 +208,7 @@ TEST(Wire, OnlyAGoodImageLeavesTheLoader)
     unit.Control("set depot 50");
     Expect(unit, {
         {"W 10000600 01 01", "w 10000600 01"}, {"W FFFFFFF9 01 5E", "w FFFFFFF9 01"}, {"R FFFFFFF0 04", loaderInfo}, {"R 10000600 06", ""},
-        {"W 10000300 01 5E", ""}, {"W FFFFFFFA 01 05", ""}, {"W FFFFFFF9 01 5E", "w FFFFFFF9 01"}, {"R 00000004 03", "r 00000004 03 37 60 11"},
+        {"W 10000300 01 5E", ""}, {"W FFFFFFF9 01 5E", "w FFFFFFF9 01"}, {"R 00000004 03", "r 00000004 03 37 60 11"},
         {"R 0000FFFF 01", "r 0000FFFF 01 FF"}, {"R 0000FFFF 02", ""}, {"R 00010000 01", ""}, {"W 0000FFFE 02 12 34", "w 0000FFFE 02"}, {"R 0000FFFE 02", "r 0000FFFE 02 12 34"}});
     EXPECT_EQ(unit.Control("get valves"), "none") << "without its application the unit holds no valve open";
     // One byte after the other spoilt and put right: mark, type, version, board, length, checksum, program.
