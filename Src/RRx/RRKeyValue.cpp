@@ -1,9 +1,9 @@
 #include "RRx/RRKeyValue.h"
 
 #include "RRx/RRFile.h"
+#include "RRx/RRKeyValueReader.h"
 
 #include <algorithm>
-#include <array>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -12,114 +12,11 @@ namespace RR {
 
 namespace {
 
-/// What a character may stand in, one bit each.
-enum CharClass : UInt08 { IN_KEY = 1, IN_VALUE = 2 };
-
-constexpr std::array<UInt08, 256> MakeCharClasses()
-{
-    std::array<UInt08, 256> classes{};
-    for (int c = 0; c < 256; ++c) {
-        const bool inKey = c >= 0x21 && c <= 0x7E && c != '*' && c != '#' && c != '?' && c != '=';
-        const bool inValue = ((c >= 0x07 && c <= 0x0D) || (c >= 0x20 && c <= 0x7E) || c >= 0xA1) && c != '"';
-        classes[static_cast<std::size_t>(c)] = static_cast<UInt08>((inKey ? IN_KEY : 0) | (inValue ? IN_VALUE : 0));
-    }
-    return classes;
-}
-
-constexpr std::array<UInt08, 256> charClasses = MakeCharClasses();
-
-bool IsIn(char c, CharClass charClass)
-{
-    return charClasses[static_cast<UInt08>(c)] & charClass;
-}
-
-bool IsAllIn(const String& text, CharClass charClass)
+bool IsAllIn(const String& text, KeyValueReader::CharClass charClass)
 {
     const char* at = text;
-    return std::all_of(at, at + text.GetLen(), [charClass](char c) { return IsIn(c, charClass); });
+    return std::all_of(at, at + text.GetLen(), [charClass](char c) { return KeyValueReader::IsIn(c, charClass); });
 }
-
-bool IsLineEnd(char c)
-{
-    return c == '\r' || c == '\n';
-}
-
-/// Walks once over the bytes of a file. A NUL has to stand behind them: it belongs to nothing but a comment, so
-/// that all else ends there by itself.
-class Reader {
-public:
-    explicit Reader(std::string_view text) : at(text.data()), end(at + text.size()) {}
-
-    bool IsAtEnd() const { return at == end; }
-
-    /// Takes the rest of a line without its end; `key` is empty for a comment or a blank line. `false` if the line
-    /// breaks the format.
-    bool TakeLine(std::string_view& key, std::string_view& value)
-    {
-        key = TakeAll(IN_KEY);
-        if (!key.empty()) {
-            SkipBlanks();
-            if (!Take('=')) {
-                return false;
-            }
-            SkipBlanks();
-            if (!Take('"')) {
-                return false;
-            }
-            value = TakeAll(IN_VALUE);
-            if (!Take('"')) {
-                return false;
-            }
-        }
-        SkipBlanks();
-        if (Take('#')) {
-            while (!IsAtEnd() && !IsLineEnd(*at)) {
-                ++at;
-            }
-        }
-        return IsAtEnd() || IsLineEnd(*at);
-    }
-
-    /// Takes all line ends that follow and returns their number; CR LF is one.
-    SInt32 TakeLineEnds()
-    {
-        SInt32 number = 0;
-        for (; IsLineEnd(*at); ++number) {
-            const bool isReturn = *at++ == '\r';
-            if (isReturn) {
-                Take('\n');
-            }
-        }
-        return number;
-    }
-
-private:
-    bool Take(char c)
-    {
-        const bool there = *at == c;
-        at += there;
-        return there;
-    }
-
-    std::string_view TakeAll(CharClass charClass)
-    {
-        const char* const start = at;
-        while (IsIn(*at, charClass)) {
-            ++at;
-        }
-        return std::string_view(start, static_cast<std::size_t>(at - start));
-    }
-
-    void SkipBlanks()
-    {
-        while (*at == ' ' || *at == '\t') {
-            ++at;
-        }
-    }
-
-    const char* at;
-    const char* const end;
-};
 
 String ToString(std::string_view text)
 {
@@ -206,7 +103,7 @@ const String& KeyValue::operator()(const String& key) const
 
 bool KeyValue::operator()(const String& key, const String& value)
 {
-    if (key.IsEmpty() || !IsAllIn(key, IN_KEY) || !IsAllIn(value, IN_VALUE)) {
+    if (key.IsEmpty() || !IsAllIn(key, KeyValueReader::IN_KEY) || !IsAllIn(value, KeyValueReader::IN_VALUE)) {
         return false;
     }
     if (value.IsEmpty()) {
@@ -251,7 +148,7 @@ bool KeyValue::Load(const String& fn, SInt32& sytaxErr, SInt32& dblEntry)
     // Files of the writer are sorted: each entry goes right behind the one before it, without a search.
     Entry::Handle latest = list.Last();
     SInt32 line = 1;
-    for (Reader reader(text); !reader.IsAtEnd(); line += reader.TakeLineEnds()) {
+    for (KeyValueReader reader(text); !reader.IsAtEnd(); line += reader.TakeLineEnds()) {
         std::string_view key;
         std::string_view value;
         if (!reader.TakeLine(key, value)) {
