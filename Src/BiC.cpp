@@ -2,7 +2,10 @@
 
 #include "RRx/RRList.h"
 
-#include <QByteArray>
+#include <charconv>
+#include <cstring>
+#include <iterator>
+#include <string>
 
 using RR::FixPnt;
 using RR::FixPnt1;
@@ -72,6 +75,21 @@ void SetElements(Quantity& value, const FixPnt3* elements, SInt32 num)
     for (SInt32 i = 0; i < num; ++i) {
         value[static_cast<typename Quantity::Unit>(i)] = elements[i];
     }
+}
+
+/// One code unit, 0 if unreadable. Lists of names are full of them, hence the short way for plain digits.
+RR::UInt16 ReadUnit(const char* text, const char* end)
+{
+    constexpr int plainDigits = 4;
+    SInt32 unit = 0;
+    const char* at = text;
+    while (at != end && String::IsDigit(*at) && at - text < plainDigits) {
+        unit = 10 * unit + (*at++ - '0');
+    }
+    if ((at != end || at == text) && !String::Parse(String(text, static_cast<SInt32>(end - text)), unit)) {
+        unit = 0;
+    }
+    return static_cast<RR::UInt16>(unit);
 }
 
 }
@@ -332,12 +350,12 @@ void BiC(const String& text, RR::DateTime& value, const RR::DateTime& fallback)
 
 String BiC(const QString& value)
 {
-    QByteArray text;
+    std::string text;
     for (const QChar unit : value) {
-        text += QByteArray::number(unit.unicode()) + ',';
+        char digits[8];
+        text.append(digits, std::to_chars(digits, std::end(digits), unsigned{unit.unicode()}).ptr) += ',';
     }
-    text += '0';
-    return text.constData();
+    return (text += '0').c_str();
 }
 
 void BiC(const String& text, QString& value, const QString& fallback)
@@ -346,15 +364,11 @@ void BiC(const String& text, QString& value, const QString& fallback)
         value = fallback;
         return;
     }
-    RR::List<String> pieces;
-    text.Split(",", pieces, false);
     QString read;
-    for (auto piece = pieces.First(); !piece.IsLast(); piece.Next()) {
-        SInt32 unit = 0;
-        if (!String::Parse(piece(), unit)) {
-            unit = 0;
-        }
-        read += QChar(static_cast<RR::UInt16>(unit));
+    const char* piece = text;
+    while (const char* const end = std::strchr(piece, ',')) {
+        read += QChar(ReadUnit(piece, end));
+        piece = end + 1;
     }
     value = read;
 }

@@ -6,6 +6,7 @@
 #include "RRx/RRList.h"
 
 #include <arpa/inet.h>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -175,11 +176,38 @@ String GetMacAdr(const char* interface)
     return text;
 }
 
+namespace {
+
+/// What each byte that leaves the register does to the rest of it.
+constexpr std::array<RR::UInt32, 256> MakeCRC32Steps()
+{
+    std::array<RR::UInt32, 256> steps{};
+    for (RR::UInt32 byte = 0; byte < steps.size(); ++byte) {
+        RR::UInt32 step = byte;
+        for (int bit = 0; bit < 8; ++bit) {
+            step = (step >> 1) ^ (step & 1 ? 0xEDB88320u : 0u);
+        }
+        steps[byte] = step;
+    }
+    return steps;
+}
+
+constexpr std::array<RR::UInt32, 256> crc32Steps = MakeCRC32Steps();
+
+}
+
 void UpdateCRC32(RR::UInt08 data, RR::UInt32& crc)
 {
-    for (int bit = 0; bit < 8; ++bit, data >>= 1) {
-        crc = (crc >> 1) ^ ((data ^ crc) & 1 ? 0xEDB88320u : 0u);
+    crc = (crc >> 8) ^ crc32Steps[(data ^ crc) & 0xFF];
+}
+
+void UpdateCRC32(const char* bytes, SInt32 num, RR::UInt32& crc)
+{
+    RR::UInt32 inRegister = crc;
+    for (const char* const end = bytes + num; bytes != end; ++bytes) {
+        UpdateCRC32(static_cast<RR::UInt08>(*bytes), inRegister);
     }
+    crc = inRegister;
 }
 
 RR::FixPnt3 RasterizeValue(const RR::FixPnt& v)

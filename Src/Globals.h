@@ -70,5 +70,6 @@ bool HasLanguage(LangCC langCC);
 /// Takes one byte into a reflected CRC-32 of the polynomial 0xEDB88320. Initial value and final inversion are
 /// the caller's.
 void UpdateCRC32(RR::UInt08 data, RR::UInt32& crc);
+void UpdateCRC32(const char* bytes, RR::SInt32 num, RR::UInt32& crc);
 /// The step in which a value of this size is set: about a hundredth of it, on a 1-2-5 ladder.
 RR::FixPnt3 RasterizeValue(const RR::FixPnt& v);

@@ -267,7 +267,7 @@ void String::Split(const char* sepStr, List<String>& list, bool skipEmpty) const
             continue;
         }
         if (i > start || !skipEmpty) {
-            pieces.Append(Mid(start, i));
+            pieces.Append()() = Mid(start, i);
         }
         start = i + 1;
     }
