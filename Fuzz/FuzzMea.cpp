@@ -41,6 +41,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Require(read.IsEmpty() == (state != Mea::ACCEPTED), "only an accepted record is filled");
     Require(state != Mea::REJECTED || DifferentFields(read, Mea()).empty(), "refused, yet with values");
 
+    Mea brief, expected;
+    Require(brief.LoadBrief("Input.mea") == state && brief.IsEmpty() == read.IsEmpty(), "another state in brief");
+    expected.dateTime = read.dateTime;
+    expected.name = read.name;
+    expected.amountSF6 = read.amountSF6;
+    expected.result = read.result;
+    Require(DifferentFields(brief, expected).empty(), "other values in brief", DifferentFields(brief, expected));
+
     RR::List<Mea::Item> items;
     read.Export(items, true);
     read.Export(items, false);

@@ -52,6 +52,8 @@ public:
     /// Reads the measurement folder's `file`. Only `ACCEPTED` ends with `IsEmpty()` false; a `MODIFIED`
     /// record holds the values of the file nevertheless.
     LoadState Load(const RR::String& file);
+    /// The same for lists of many: fills no more than `dateTime`, `name`, `amountSF6` and `result`.
+    LoadState LoadBrief(const RR::String& file);
 
     /// The record as display lines in the language and units of today; `isPreView` gives the short list.
     void Export(RR::List<Item>& items, bool isPreView) const;

@@ -3,13 +3,17 @@
 #include "BiC.h"
 #include "Config.h"
 #include "RRx/RRFile.h"
-#include "RRx/RRList.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string>
 
 using namespace RR;
 
 namespace {
 
 constexpr SInt32 fieldNum = 7;
+constexpr char separator[] = "|";
 
 }
 
@@ -41,7 +45,7 @@ bool MeaHeader::Setup(const String& file)
     fileTime = info.modTime;
 
     Mea mea;
-    status = static_cast<Status>(mea.Load(name));
+    status = static_cast<Status>(mea.LoadBrief(name));
     meaTime = mea.dateTime;
     meaName = mea.name;
     meaAmountSF6 = mea.amountSF6;
@@ -52,27 +56,38 @@ bool MeaHeader::Setup(const String& file)
 void MeaHeader::Export(String& key, String& value) const
 {
     key = fileName;
-    value = BiC(fileSize) + "|" + BiC(fileTime) + "|" + BiC(meaTime) + "|" + BiC(meaName) + "|" + BiC(meaAmountSF6) + "|"
-        + BiC(meaResult) + "|" + BiC(status);
+    const String fields[fieldNum] = {BiC(fileSize),     BiC(fileTime),  BiC(meaTime), BiC(meaName),
+                                     BiC(meaAmountSF6), BiC(meaResult), BiC(status)};
+    std::string line;
+    for (const String& field : fields) {
+        line += field;
+        line += separator;
+    }
+    line.pop_back();
+    value = line.c_str();
 }
 
 bool MeaHeader::Import(const String& key, const String& value)
 {
     SetEmpty();
-    List<String> fields;
-    value.Split("|", fields, false);
-    if (fields.GetCount() != fieldNum) {
+    const char* at = value;
+    if (std::count(at, at + value.GetLen(), *separator) != fieldNum - 1) {
         return false;
     }
+    const auto next = [&at] {
+        const SInt32 length = static_cast<SInt32>(std::strcspn(at, separator));
+        const String field(at, length);
+        at += length + 1;
+        return field;
+    };
     fileName = key;
-    List<String>::Handle field = fields.First();
-    BiC(field(), fileSize, INVALID);
-    BiC(field.Next()(), fileTime, DateTime());
-    BiC(field.Next()(), meaTime, DateTime());
-    BiC(field.Next()(), meaName, QString());
-    BiC(field.Next()(), meaAmountSF6, FixPnt1(INVALID));
-    BiC(field.Next()(), meaResult);
-    BiC(field.Next()(), status);
+    BiC(next(), fileSize, INVALID);
+    BiC(next(), fileTime, DateTime());
+    BiC(next(), meaTime, DateTime());
+    BiC(next(), meaName, QString());
+    BiC(next(), meaAmountSF6, FixPnt1(INVALID));
+    BiC(next(), meaResult);
+    BiC(next(), status);
     return true;
 }
 
@@ -88,10 +103,8 @@ String BiC(MeaHeader::Status status)
 
 void BiC(const String& text, MeaHeader::Status& status)
 {
-    status = MeaHeader::DEVOID;
-    for (const MeaHeader::Status known : {MeaHeader::ACCEPTED, MeaHeader::REJECTED, MeaHeader::MODIFIED}) {
-        if (text == BiC(known)) {
-            status = known;
-        }
-    }
+    status = text == "A" ? MeaHeader::ACCEPTED
+        : text == "R"    ? MeaHeader::REJECTED
+        : text == "M"    ? MeaHeader::MODIFIED
+                         : MeaHeader::DEVOID;
 }

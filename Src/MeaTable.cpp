@@ -40,12 +40,14 @@ void ListMeasurements(Files& files)
 {
     List<FileInfo> found;
     DIR_List(PATH_Merge(CFG::MeaFilesFolder, "*"), found, DIR_FILES);
+    const SInt32 nameAt = PATH_Merge(CFG::MeaFilesFolder, "*").GetLen() - 1;
     // A folder of a card lists its files in the order of their making, which is that of their names.
     typename Files::Handle latest;
     for (List<FileInfo>::Handle file = found.First(); !file.IsNil(); file.Next()) {
-        const String name = PATH_GetFile(file().pathFile);
+        const String name = file().pathFile.Right(nameAt);
         if (name.Matches(measurementPattern, false)) {
-            latest = files.Insert(name, file(), latest);
+            latest = files.Insert(name, latest);
+            std::swap(latest.Entry(), file());
         }
     }
 }

@@ -112,13 +112,17 @@ TEST(MeaFile, TheSignatureCoversTheValuesAlone)
          Edit("\"lo\"\r\nM-ReportSO2          = \"---\"", "\"---\"\r\nM-ReportSO2 = \"lo\""), Mea::MODIFIED},
         {"signature gone", Edit("A-Signature          = \"0X07A51156\"\r\n", ""), Mea::MODIFIED},
         {"one more key", reference + "Z = \"1\"\r\n", Mea::MODIFIED},
+        {"another order of the keys", Edit("M-Type               = \"C\"\r\n", "") + "M-Type = \"C\"\r\n", Mea::ACCEPTED},
         {"other kind of file", Edit("ZARN-Measurement", "ZARN-Settings"), Mea::REJECTED},
         {"a key twice", reference + "M-Type = \"C\"\r\n", Mea::REJECTED},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
-        Mea loaded;
+        Mea loaded, brief;
         EXPECT_EQ(LoadText(row.text, loaded), row.state);
+        EXPECT_EQ(brief.LoadBrief("Text.mea"), row.state);
+        EXPECT_EQ(BiC(brief.dateTime) + BiC(brief.name) + BiC(brief.amountSF6) + BiC(brief.result),
+                  BiC(loaded.dateTime) + BiC(loaded.name) + BiC(loaded.amountSF6) + BiC(loaded.result));
         EXPECT_EQ(loaded.IsEmpty(), row.state != Mea::ACCEPTED);
         EXPECT_EQ(DifferentFields(loaded, Mea()).empty(), row.state == Mea::REJECTED);
     }
