@@ -222,6 +222,117 @@
     </message>
 </context>
 <context>
+    <name>DlgMeaFollowUp</name>
+    <message>
+        <source>Weitere Aktion ...</source>
+        <translation>Further action ...</translation>
+    </message>
+    <message>
+        <source>Messung</source>
+        <translation>Measurement</translation>
+    </message>
+    <message>
+        <source>Weitere Messung starten ...</source>
+        <translation>Start new measurement ...</translation>
+    </message>
+    <message>
+        <source>Depot leeren</source>
+        <translation>Empty storage</translation>
+    </message>
+    <message>
+        <source>durch Anschluss &lt;b&gt;1&lt;/b&gt;</source>
+        <translation>through port &lt;b&gt;1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>durch Anschluss &lt;b&gt;2&lt;/b&gt;</source>
+        <translation>through port &lt;b&gt;2&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>(max. %1 %2 abs.)</source>
+        <translation>(max. %1 %2 abs.)</translation>
+    </message>
+    <message>
+        <source>Beenden</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Keine weitere Aktion</source>
+        <translation>No further action</translation>
+    </message>
+</context>
+<context>
+    <name>DlgMeaResult</name>
+    <message>
+        <source>Messung beendet</source>
+        <translation>Measurement completed</translation>
+    </message>
+    <message>
+        <source>Feuchte:</source>
+        <translation>Humidity:</translation>
+    </message>
+    <message>
+        <source>Ergebnis:</source>
+        <translation>Result:</translation>
+    </message>
+    <message>
+        <source>Bestanden</source>
+        <translation>Passed</translation>
+    </message>
+    <message>
+        <source>Nicht Bestanden</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>n.v.</source>
+        <translation>n/a</translation>
+    </message>
+    <message>
+        <source>Schliessen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>DlgMeaStart</name>
+    <message>
+        <source>Messung starten ...</source>
+        <translation>Start measurement ...</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Messung mit internem SF&lt;sub&gt;6&lt;/sub&gt;-Depot&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Measurement with&lt;br&gt;internal SF&lt;sub&gt;6&lt;/sub&gt;-storage comp.&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Depotinhalt im Anschluss
+sofort zurückpumpen</source>
+        <translation>Pump back directly
+after measurement</translation>
+    </message>
+    <message>
+        <source>Mehrfach-Messungen</source>
+        <translation>Multiple measurement</translation>
+    </message>
+    <message>
+        <source>Anzahl:</source>
+        <translation>Number:</translation>
+    </message>
+    <message>
+        <source>Zeitintervall:</source>
+        <translation>Interval:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;Messung mit externem SF&lt;sub&gt;6&lt;/sub&gt;-Behälter&lt;/b&gt;&lt;i&gt;&lt;br&gt;an Anschluss &lt;b&gt;3&lt;/b&gt; (drucklos)&lt;/i&gt;</source>
+        <translation>&lt;b&gt;Measurement with&lt;br&gt;external SF&lt;sub&gt;6&lt;/sub&gt;-storage comp.&lt;/b&gt;&lt;i&gt;&lt;br&gt;at port &lt;b&gt;3&lt;/b&gt; (unpressurised)&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>DlgNameList</name>
     <message>
         <source>Liste der Messungsnamen</source>
@@ -364,6 +475,25 @@ No access to USB storage device</translation>
     <message>
         <source>Nein</source>
         <translation>No</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DlgSaveAs</name>
+    <message>
+        <source>Speichern als Messung</source>
+        <translation>Save as measurement</translation>
+    </message>
+    <message>
+        <source>Exportieren im Format &quot;CSV&quot;</source>
+        <translation>Export to &quot;CSV&quot; format</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Ok</translation>
     </message>
     <message>
         <source>Abbrechen</source>
@@ -648,6 +778,25 @@ Self-purification process was initiated</translation>
     <message>
         <source>&lt; Min.</source>
         <translation>&lt; Min.</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>&gt; Max.</source>
+        <translation>&gt; Max.</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>&lt; Min.</source>
+        <translation>&lt; Min.</translation>
+    </message>
+    <message>
+        <source>n.v.</source>
+        <translation>n/a</translation>
     </message>
 </context>
 <context>

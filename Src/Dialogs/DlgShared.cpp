@@ -1,6 +1,9 @@
 #include "Dialogs/DlgShared.h"
 
+#include "Config.h"
 #include "Globals.h"
+#include "PrintIt.h"
+#include "Settings.h"
 
 #include <QDialog>
 #include <QFontMetrics>
@@ -76,6 +79,12 @@ QString AsWritten(const QString& text)
 {
     // A label looks for tags in the first line alone, and takes escaped ones there for rich text as well.
     return Qt::mightBeRichText(text) ? text.toHtmlEscaped().replace('\n', QLatin1String("<br>")) : text;
+}
+
+QString WithPumpBackLimit(const QString& text)
+{
+    const RR::SInt32 limit = RR::Round(CFG::MeaPumpBackLimit[settings.unitPressure], RR::ROUND);
+    return text.arg(PrintNum(limit), PrintPressureUnit(settings.unitPressure));
 }
 
 void Center(QDialog& dialog)

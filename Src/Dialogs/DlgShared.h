@@ -16,6 +16,10 @@ QWidget* Parent();
 /// with parts that come from a file or a finger.
 QString AsWritten(const QString& text);
 
+/// `text` with the absolute pressure up to which the storage compartment is pumped empty, and its unit, in place
+/// of %1 and %2.
+QString WithPumpBackLimit(const QString& text);
+
 /// Moves the dialog to the middle of its screen, by its present size.
 void Center(QDialog& dialog);
 
