@@ -2,6 +2,41 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_GB" sourcelanguage="de_DE">
 <context>
+    <name>DlgEmptyDepot</name>
+    <message>
+        <source>Depot leeren</source>
+        <translation>Empty storage</translation>
+    </message>
+    <message>
+        <source>durch Anschluss &lt;b&gt;1&lt;/b&gt;</source>
+        <translation>through port &lt;b&gt;1&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>durch Anschluss &lt;b&gt;2&lt;/b&gt;</source>
+        <translation>through port &lt;b&gt;2&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>(max. %1 %2 abs.)</source>
+        <translation>(max. %1 %2 abs.)</translation>
+    </message>
+    <message>
+        <source>Externes Behältnis mit einbeziehen</source>
+        <translation>Include external storage comp.</translation>
+    </message>
+    <message>
+        <source>an Anschluss &lt;b&gt;3&lt;/b&gt;</source>
+        <translation>at port &lt;b&gt;3&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>(drucklos)</source>
+        <translation>(depressurised)</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>DlgError</name>
     <message>
         <source>Nr:</source>
@@ -13,6 +48,33 @@
     </message>
 </context>
 <context>
+    <name>DlgEvacuation</name>
+    <message>
+        <source>System Evakuierung</source>
+        <translation>Evacuate system</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Gerät nun bereit zur Evakuierung durch Anschluss 1&lt;/i&gt;</source>
+        <translation>&lt;i&gt;Device ready for evacuation through port 1&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Aktueller Druck: </source>
+        <translation>Current pressure:</translation>
+    </message>
+    <message>
+        <source>Beenden</source>
+        <translation>Exit</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Die Druckverhältnisse im Inneren des Gerätes sind noch unausgeglichen.&lt;p&gt;&lt;b&gt;Evakuierung trotzdem Abbrechen?&lt;/b&gt;</source>
+        <translation>Internal pressure is not yet  equalised.&lt;p&gt;&lt;b&gt; Abort process anyhow?&lt;/b&gt;</translation>
+    </message>
+</context>
+<context>
     <name>DlgFileList</name>
     <message>
         <source>Ok</source>
@@ -21,6 +83,33 @@
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DlgInnerPressWarning</name>
+    <message>
+        <source>&lt;i&gt;Betriebsdruck im Inneren des Systems ist unausgeglichen:&lt;/i&gt;</source>
+        <translation>&lt;i&gt;Internal pressure is not equalised.&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source> ... ungültig</source>
+        <translation> ... invalid</translation>
+    </message>
+    <message>
+        <source>(zu niedrig)</source>
+        <translation>(too low)</translation>
+    </message>
+    <message>
+        <source>(zu hoch)</source>
+        <translation>(too high)</translation>
+    </message>
+    <message>
+        <source>&lt;i&gt;Bitte mittels Anschluss 3 ausgleichen&lt;/i&gt;</source>
+        <translation>&lt;i&gt;Please equalise through port 3&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Abschalten</source>
+        <translation>Shut down</translation>
     </message>
 </context>
 <context>
