@@ -92,7 +92,10 @@ void WriteIndex(const std::vector<Gallery::Exhibit>& exhibits, const QStringList
 
 int ShowAll()
 {
-    const std::vector<Gallery::Exhibit> exhibits = Gallery::Exhibits();
+    std::vector<Gallery::Exhibit> exhibits = Gallery::Exhibits();
+    for (const Gallery::Exhibit& exhibit : Gallery::ProcessExhibits()) {
+        exhibits.push_back(exhibit);
+    }
     QStringList shown;
     int faults = 0;
     for (const char* code : languages) {

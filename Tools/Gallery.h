@@ -24,8 +24,10 @@ struct Exhibit {
     std::function<void()> prepare = nullptr;
 };
 
-/// All of them; a new dialog is one more line there.
+/// The messages, and what texts are typed into; a new dialog is one more line there, or in the list below.
 std::vector<Exhibit> Exhibits();
+/// What frames a measurement and the other gas processes, with a scripted sensor unit.
+std::vector<Exhibit> ProcessExhibits();
 
 /// The text in the language that is selected, as a caller of a dialog would hand it in.
 QString Said(const char* german, const char* english);
