@@ -1,5 +1,9 @@
 #include "WndMain.h"
 
+#include "Dialogs/DlgInnerPressWarning.h"
+#include "Dialogs/DlgSensorInfo.h"
+#include "Dialogs/DlgShutdown.h"
+#include "Dialogs/DlgStatement.h"
 #include "Globals.h"
 #include "TDFirmware.h"
 #include "TavorDev.h"
@@ -37,9 +41,19 @@ void WndMain::On2ndStage()
     if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
         SynchronizeClocks();
     }
+    UpdateMeaTab();
+    ui->meaTable->scrollToBottom();
+    WarnOfSensorService();
+    if (!DlgInnerPressWarning::InnerPressureBalanced()) {
+        RR::Log("[ZARN] System pressure out of limit\n");
+        if (!WarnOfInnerPressure()) {
+            return;
+        }
+    }
     if (inspectionMode) {
         RR::Log("[ZARN] Preparation skipped (inspection mode)\n");
         ui->startMea->setEnabled(true);
+        ui->emptyDepot->setEnabled(true);
     } else if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
         jobSTM.Start(JobStateMachine::TYPE_H);
     }
@@ -54,15 +68,17 @@ void WndMain::CheckFirmware()
         if (info.applVers != needed) {
             RR::Log("[ZARN] TDev version disparity (has: %s, need: %s)\n", info.applVers.ToStr(), needed.ToStr());
         }
-    } else {
-        ui->statusInoperableSymb->show();
-        ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
-        if (tavorDev.GetMode() == TavorDev::MODE_PGMLDR) {
-            RR::Log("[ZARN] Tavor device in program loader mode\n");
-        } else {
-            QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
-        }
+        return;
     }
+    ui->statusInoperableSymb->show();
+    ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
+    if (tavorDev.GetMode() == TavorDev::MODE_PGMLDR) {
+        RR::Log("[ZARN] Tavor device in program loader mode\n");
+        return;
+    }
+    DlgStatement::Show(tr("Keine Sensoreinheit gefunden"), DlgStatement::CLOSE_60, true);
+    QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
+    PlaceSensorOutputFields();
 }
 
 void WndMain::SynchronizeClocks()
@@ -77,6 +93,28 @@ void WndMain::SynchronizeClocks()
     } else if (IsGood(unit)) {
         LogTime("[ZARN] Synchronize clocks: HMI from TDev (%s)\n", unit);
         SetClock(unit);
+    }
+}
+
+void WndMain::WarnOfSensorService()
+{
+    constexpr RR::SInt32 warningDays = 30;
+    const QString names[TavorDev::SENSOR_NUM] = {QStringLiteral("SF<sub>6</sub>"), QStringLiteral("SO<sub>2</sub>"), tr("Feuchte"),
+        QStringLiteral("HF"), QStringLiteral("CO"), {}, QStringLiteral("H<sub>2</sub>S"), {}};
+    QString items;
+    int count = 0;
+    for (RR::SInt32 i = 0; i < TavorDev::SENSOR_NUM; ++i) {
+        const RR::SInt32 days = DlgSensorInfo::GetCalRemainingDays(tavorDev.GetSensorProfile(static_cast<TavorDev::Sensor>(i)));
+        if (days == RR::INVALID || days > warningDays) {
+            continue;
+        }
+        const QString remark = days >= 0 ? tr(" (läuft in %1 Tagen ab)").arg(days) : tr(" (%1 Tage überfällig)").arg(-days);
+        items += "<li>" + names[i] + remark + "</li>";
+        ++count;
+    }
+    if (count > 0) {
+        const QString heading = count == 1 ? tr("Wartung empfohlen für folgenden Sensor:") : tr("Wartung empfohlen für folgende Sensoren:");
+        DlgStatement::Show(heading + "<br><ul>" + items + "</ul>", DlgStatement::CLOSE_40, false);
     }
 }
 
@@ -97,24 +135,28 @@ void WndMain::OnTavorDevConnected()
 {
     if (tavorDev.GetMode() != TavorDev::MODE_PGMLDR) {
         UpdateSensors();
+        PlaceSensorOutputFields();
         ui->statusInoperableSymb->hide();
     }
 }
 
 void WndMain::OnTavorDevDisconnected()
 {
+    PlaceSensorOutputFields();
     ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
 }
 
 void WndMain::OnTavorDevLost()
 {
     RR::Log("[ZARN] Tavor device lost\n");
+    PlaceSensorOutputFields();
     ShowStatusBarMsg(tr("Sensoreinheit ausgefallen"), RR::INVALID);
 }
 
 void WndMain::OnTavorDevRecovered()
 {
     RR::Log("[ZARN] Tavor device recovered\n");
+    PlaceSensorOutputFields();
     StatusMsg(tr("Sensoreinheit wieder in Betrieb"));
 }
 
@@ -125,5 +167,7 @@ void WndMain::OnTavorDevChanged()
 
 void WndMain::OnShutdown()
 {
-    close();
+    if (DlgShutdown::Show()) {
+        close();
+    }
 }

@@ -27,7 +27,7 @@ DlgInspJobStart::DlgInspJobStart() : QDialog(DlgShared::Parent(), Qt::FramelessW
     for (QLabel* label : {ui->labelTypeBDTxt, ui->labelTypeBETxt, ui->labelTypeHTxt, ui->labelTypeITxt}) {
         label->installEventFilter(this);
     }
-    // First, since the box shows a new type only when its value or raster changes.
+    // Before anything changes the time, for then the box is to follow at once.
     ui->setSensPassageTime->SetOutputType(RR::FixPnt::FixP0);
     ui->setSensPassageTime->setRange(minPassTime, maxPassTime);
     TakeChoice(settings);
