@@ -1002,5 +1002,259 @@ Self-purification process was initiated</translation>
         <source>Sensoreinheit wieder in Betrieb</source>
         <translation>Sensor unit recovered</translation>
     </message>
+    <message>
+        <source>Druck an &lt;b&gt;1&lt;/b&gt;:</source>
+        <translation>Pressure at port &lt;b&gt;1&lt;/b&gt;:</translation>
+    </message>
+    <message>
+        <source>&lt;sub&gt;Abs.&lt;/sub&gt;</source>
+        <translation>&lt;sub&gt;Abs.&lt;/sub&gt;</translation>
+    </message>
+    <message>
+        <source>Depot leeren</source>
+        <translation>Empty storage</translation>
+    </message>
+    <message>
+        <source>Messungen:</source>
+        <translation>Measurements:</translation>
+    </message>
+    <message>
+        <source>Einstellungen</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Druck</source>
+        <translation>Pressure</translation>
+    </message>
+    <message>
+        <source>Temperatur</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <source>SF&lt;sub&gt;6&lt;/sub&gt;-Vol% in</source>
+        <translation>SF&lt;sub&gt;6&lt;/sub&gt;-Vol% in</translation>
+    </message>
+    <message>
+        <source>Liste der
+Messungsnamen</source>
+        <translation>List of
+measurement
+names</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>System
+Info</source>
+        <translation>System
+Info</translation>
+    </message>
+    <message>
+        <source>Sensor
+Info</source>
+        <translation>Sensor
+info</translation>
+    </message>
+    <message>
+        <source>Selbsttest</source>
+        <translation>Selftest</translation>
+    </message>
+    <message>
+        <source>Datum &amp;&amp; 
+Zeit</source>
+        <translation>Date &amp;&amp; Time</translation>
+    </message>
+    <message>
+        <source>Sprache</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Werks-
+einstellungen</source>
+        <translation>Factory
+settings</translation>
+    </message>
+    <message>
+        <source>System
+Evakuierung </source>
+        <translation>System
+evacuation </translation>
+    </message>
+    <message>
+        <source>Inspektions-
+betriebsart</source>
+        <translation>Inspection
+mode</translation>
+    </message>
+    <message>
+        <source>Untergrenze SF&lt;sub&gt;6&lt;/sub&gt;</source>
+        <translation>Lower limit SF&lt;sub&gt;6&lt;/sub&gt;</translation>
+    </message>
+    <message>
+        <source>Obergrenze SO&lt;sub&gt;2&lt;/sub&gt;</source>
+        <translation>Upper limit SO&lt;sub&gt;2&lt;/sub&gt;</translation>
+    </message>
+    <message>
+        <source>Obergrenze HF</source>
+        <translation>Upper limit HF</translation>
+    </message>
+    <message>
+        <source>Aus</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Obergrenze Feuchte</source>
+        <translation>Upper limit humidity</translation>
+    </message>
+    <message>
+        <source>Durchflussdauer</source>
+        <translation>Flow duration</translation>
+    </message>
+    <message>
+        <source>Minimaler Einlassdruck</source>
+        <translation>Minimal inlet pressure</translation>
+    </message>
+    <message>
+        <source>Maximaler Einlassdruck</source>
+        <translation>Maximum inlet pressure</translation>
+    </message>
+    <message>
+        <source>Maximaler Gegendruck</source>
+        <translation>Maximum back pressure</translation>
+    </message>
+    <message>
+        <source>Anzeige der Sensorwerte</source>
+        <translation>Display sensor values</translation>
+    </message>
+    <message>
+        <source>nach</source>
+        <translation>after</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang</source>
+        <translation>Pump back process</translation>
+    </message>
+    <message>
+        <source>Depotleerung</source>
+        <translation>Empty storage process</translation>
+    </message>
+    <message>
+        <source>Bereitstellung</source>
+        <translation>Preparation</translation>
+    </message>
+    <message>
+        <source>Interne Speicherkarte: Zugriffsfehler&lt;p&gt;&lt;i&gt;(System bitte neu starten)&lt;/i&gt;</source>
+        <translation>Internal memory card: access error &lt;p&gt;&lt;i&gt;(please reboot the system)&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Keine Sensoreinheit gefunden</source>
+        <translation>No sensor unit found</translation>
+    </message>
+    <message>
+        <source> (läuft in %1 Tagen ab)</source>
+        <translation> (expires in %1 days)</translation>
+    </message>
+    <message>
+        <source> (%1 Tage überfällig)</source>
+        <translation> (%1 days overdue)</translation>
+    </message>
+    <message>
+        <source>Wartung empfohlen für folgenden Sensor:</source>
+        <translation>Service recommended for the following Sensor:</translation>
+    </message>
+    <message>
+        <source>Wartung empfohlen für folgende Sensoren:</source>
+        <translation>Service recommended for the following Sensors:</translation>
+    </message>
+    <message>
+        <source>Gehäuseinnentemperatur übersteigt die zulässige Grenze von %1!&lt;p&gt;&lt;i&gt;Gerät wird abgeschaltet.&lt;/i&gt;</source>
+        <translation>Internal temperature exceeds the permitted limit of %1!&lt;p&gt;&lt;i&gt;Device will shut down.&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Gerät wieder betriebsbereit</source>
+        <translation>Device ready for use</translation>
+    </message>
+    <message>
+        <source>Keine Sensoren</source>
+        <translation>No sensors</translation>
+    </message>
+    <message>
+        <source>Anzeige Flussplan</source>
+        <translation>Display flowsheet</translation>
+    </message>
+    <message>
+        <source>Anzeige Sensorwerte</source>
+        <translation>Display sensor values</translation>
+    </message>
+    <message>
+        <source>Nur bestückte Sensoren anzeigen</source>
+        <translation>Show available sensors only</translation>
+    </message>
+    <message>
+        <source>Alle unterstützten Sensoren anzeigen</source>
+        <translation>Show all supported sensors</translation>
+    </message>
+    <message>
+        <source>Hauptventil</source>
+        <translation>Main valve</translation>
+    </message>
+    <message>
+        <source>Einlassventil</source>
+        <translation>Inlet valve</translation>
+    </message>
+    <message>
+        <source>Auslassventil</source>
+        <translation>Outlet valve</translation>
+    </message>
+    <message>
+        <source>Depot Ventil</source>
+        <translation>Storage compartment valve</translation>
+    </message>
+    <message>
+        <source>Druckausgangsventil</source>
+        <translation>Pressure outlet valve</translation>
+    </message>
+    <message>
+        <source>Freilauf Ventil</source>
+        <translation>Freerun valve</translation>
+    </message>
+    <message>
+        <source> geöffnet</source>
+        <translation> opened</translation>
+    </message>
+    <message>
+        <source> geschlossen</source>
+        <translation> closed</translation>
+    </message>
+    <message>
+        <source>Kompressor ein</source>
+        <translation>Compressor on</translation>
+    </message>
+    <message>
+        <source>Kompressor aus</source>
+        <translation>Compressor off</translation>
+    </message>
+    <message>
+        <source>Bitte Akku laden</source>
+        <translation>Please charge battery</translation>
+    </message>
+    <message>
+        <source>Kalibrierungseinstellung
+SF&lt;sub&gt;6&lt;/sub&gt; in %1
+wird nicht unterstützt.</source>
+        <translation>Calibration setup
+SF&lt;sub&gt;6&lt;/sub&gt; in %1
+not supported.</translation>
+    </message>
+    <message>
+        <source>Bei mehr als %1
+Messungen:
+Älteste löschen</source>
+        <translation>In case of more than
+%1 measurements:
+Delete oldest</translation>
+    </message>
 </context>
 </TS>
