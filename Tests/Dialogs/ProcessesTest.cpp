@@ -6,6 +6,8 @@
 #include "Dialogs/DlgInspJobStart.h"
 #include "JobStateMachine.h"
 
+#include <algorithm>
+
 using Jobs = JobStateMachine;
 
 class Processes : public ProcessDialogTest {
