@@ -101,7 +101,9 @@ bool DlgNameList::LoadNameList(const char* pathFile, QStringList& list)
 {
     list.clear();
     RR::Array<RR::UInt08> bytes;
-    if (RR::FILE_ReadSize(pathFile) > maxFileBytes || !RR::FILE_Read(pathFile, bytes)) {
+    const RR::SInt32 size = RR::FILE_ReadSize(pathFile);
+    // A stick that is pulled meanwhile yields the beginning only, and names would go unnoticed.
+    if (size > maxFileBytes || !RR::FILE_Read(pathFile, bytes) || bytes.GetSize() < size) {
         RR::Log("[ZARN] Error reading namelist file.\n");
         return false;
     }

@@ -93,6 +93,9 @@ TEST(NameListFile, LimitsTheListAndNotTheUser)
 
     EXPECT_FALSE(DlgNameList::LoadNameList("/no/such/file.csv", names));
     EXPECT_TRUE(names.isEmpty());
+    // Yields fewer bytes than it has, like a file on a stick that is pulled.
+    fs::create_symlink("/sys/class/net/lo/mtu", Board::Locate("/short.csv"));
+    EXPECT_FALSE(DlgNameList::LoadNameList("/short.csv", names));
 }
 
 class NameList : public DialogTest {
