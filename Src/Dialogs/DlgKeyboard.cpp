@@ -3,7 +3,7 @@
 #include "Config.h"
 #include "Dialogs/DlgNameList.h"
 #include "Dialogs/DlgShared.h"
-#include "RRx/RRPath.h"
+#include "RRx/RRFile.h"
 #include "ui_DlgKeyboard.h"
 
 #include <QAbstractItemView>
@@ -47,8 +47,8 @@ bool DlgKeyboard::Show(const QString& title, QString& word, int maxLetter)
 {
     DlgKeyboard dialog(title);
     const RR::String path = RR::PATH_Merge(CFG::MeaNameListPath, CFG::MeaNameListFile);
-    // Without a file there is nothing to offer yet.
-    (void)DlgNameList::LoadNameList(path, dialog.nameList);
+    // Without a file there is nothing to offer yet. One that can't be read may hold names all the same.
+    const bool replaceable = DlgNameList::LoadNameList(path, dialog.nameList) || !RR::FILE_IsPresent(path);
     dialog.ui->lineEdit->setText(word);
     dialog.SetUpCompleter(maxLetter);
     dialog.ui->lineEdit->setMaxLength(maxLetter);
@@ -63,7 +63,11 @@ bool DlgKeyboard::Show(const QString& title, QString& word, int maxLetter)
     while (names.size() > DlgNameList::maxNames) {
         names.removeLast();
     }
-    (void)DlgNameList::SaveNameList(path, names);
+    if (replaceable) {
+        (void)DlgNameList::SaveNameList(path, names);
+    } else {
+        RR::Log("[ZARN] Namelist file can't be read and stays as it is.\n");
+    }
     return true;
 }
 

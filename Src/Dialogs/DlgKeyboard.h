@@ -13,7 +13,8 @@ class DlgKeyboard : public QDialog {
 
 public:
     /// True if the user accepted; `word`, what the line shows first, is then what he typed, `maxLetter` letters at
-    /// most, and stands at the head of the list of names on the card. Otherwise word and file stay as they are.
+    /// most, and stands at the head of the list of names on the card, unless there is one that can't be read.
+    /// Otherwise word and file stay as they are.
     static bool Show(const QString& title, QString& word, int maxLetter);
 
 protected:

@@ -20,6 +20,7 @@ public:
 
     /// Reads a file of names in UTF-16 behind a byte order mark, or else in Latin-1, separated by semicolon, comma or
     /// line end. `list` is empty on failure. More than `maxNames` are cut off, and the user is told.
+    /// Fails for more than 32 MiB, which no list that was read takes when it is written.
     static bool LoadNameList(const char* pathFile, QStringList& list);
     /// Writes `"A","B"` in UTF-16, low byte first, behind a byte order mark. Tells the user of a full medium.
     static bool SaveNameList(const char* pathFile, const QStringList& list);

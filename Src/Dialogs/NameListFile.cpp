@@ -12,6 +12,10 @@ const QLatin1String rejChar(":=*?\\/");
 constexpr QChar quote('"');
 /// Far above any list of names; keeps a stray file of another kind from filling the memory.
 constexpr RR::SInt32 maxFileBytes = 32 << 20;
+/// Letters of a name that are kept: more than any screen shows, and so few that each list that was read can be read
+/// again once it is written.
+constexpr int maxNameLetters = 1000;
+static_assert(2 * (1 + DlgNameList::maxNames * (maxNameLetters + 3)) <= maxFileBytes);
 
 /// The content of a file as UTF-16 units.
 class Units {
@@ -44,25 +48,28 @@ private:
     int highByte = -1;
 };
 
-/// The name in what stands between two separators.
-QString NameIn(const QString& part)
+/// The name in what stands between two separators. `shortened` is set where letters had to go.
+QString NameIn(const QString& part, bool& shortened)
 {
-    QString name = part.toUpper();
+    // Neither upper case nor an underscore makes white space or quotes. A long name of letters that become two would
+    // take the toolkit minutes to turn to upper case, so it is cut before.
+    QString name = part.simplified();
+    qsizetype first = 0;
+    while (first < name.size() && name[first] == quote) {
+        ++first;
+    }
+    name = name.sliced(first);
+    shortened = shortened || name.size() > maxNameLetters;
+    name = name.left(maxNameLetters).toUpper().left(maxNameLetters);
     for (QChar& letter : name) {
         if (rejChar.contains(letter)) {
             letter = '_';
         }
     }
-    name = name.simplified();
-    qsizetype first = 0;
-    qsizetype end = name.size();
-    while (first < end && name[first] == quote) {
-        ++first;
+    while (name.endsWith(quote)) {
+        name.chop(1);
     }
-    while (end > first && name[end - 1] == quote) {
-        --end;
-    }
-    return name.mid(first, end - first);
+    return name;
 }
 
 }
@@ -73,7 +80,9 @@ bool DlgNameList::DecodeNameList(const RR::Array<RR::UInt08>& bytes, QStringList
     const Units text(bytes);
     QSet<QString> known;
     QString part;
-    for (RR::SInt32 i = 0; i <= text.GetCount(); ++i) {
+    bool complete = true;
+    bool shortened = false;
+    for (RR::SInt32 i = 0; i <= text.GetCount() && complete; ++i) {
         const bool atEnd = i == text.GetCount();
         const QChar unit = atEnd ? QChar() : text[i];
         if (!atEnd && !sepChar.contains(unit)) {
@@ -83,18 +92,21 @@ bool DlgNameList::DecodeNameList(const RR::Array<RR::UInt08>& bytes, QStringList
             }
             continue;
         }
-        const QString name = NameIn(part);
+        const QString name = NameIn(part, shortened);
         part.clear();
         if (name.isEmpty() || known.contains(name)) {
             continue;
         }
-        if (list.size() == maxNames) {
-            return false;
+        complete = list.size() < maxNames;
+        if (complete) {
+            known.insert(name);
+            list.append(name);
         }
-        known.insert(name);
-        list.append(name);
     }
-    return true;
+    if (shortened) {
+        RR::Log("[ZARN] Names in namelist reduced to %d letters.\n", maxNameLetters);
+    }
+    return complete;
 }
 
 bool DlgNameList::LoadNameList(const char* pathFile, QStringList& list)

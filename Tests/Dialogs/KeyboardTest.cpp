@@ -1,5 +1,6 @@
 #include "Dialogs/DlgKeyboard.h"
 
+#include "Board/Board.h"
 #include "Dialogs/DlgNameList.h"
 #include "DialogTesting.h"
 #include "RRx/RRFile.h"
@@ -8,6 +9,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QWindow>
+#include <unistd.h>
 
 namespace {
 
@@ -131,6 +133,19 @@ TEST_F(Keyboard, PutsAcceptedWordsAtTheHeadOfTheFile)
     EXPECT_FALSE(accepted);
     EXPECT_EQ(word, "FORMER");
     EXPECT_EQ(Stored(), names);
+}
+
+TEST_F(Keyboard, LeavesAFileAloneThatItCannotRead)
+{
+    constexpr RR::SInt32 tooLarge = (32 << 20) + 1;
+    ASSERT_EQ(truncate(Board::Locate(file).c_str(), tooLarge), 0);
+    Use("WORD", [] { Press({"buttonOk"}); });
+    EXPECT_TRUE(accepted);
+    EXPECT_EQ(RR::FILE_ReadSize(file), tooLarge);
+
+    RR::FILE_Delete(file);
+    Use("WORD", [] { Press({"buttonOk"}); });
+    EXPECT_EQ(Stored(), QStringList("WORD"));
 }
 
 TEST_F(Keyboard, TakesNamesFromTheList)
