@@ -77,8 +77,10 @@ QWidget* Parent()
 
 QString AsWritten(const QString& text)
 {
-    // A label looks for tags in the first line alone, and takes escaped ones there for rich text as well.
-    return Qt::mightBeRichText(text) ? text.toHtmlEscaped().replace('\n', QLatin1String("<br>")) : text;
+    // A label looks for a tag or "&lt;" in the first line alone; once escaped the text may hold neither there.
+    return Qt::mightBeRichText(text)
+        ? QLatin1String("<qt>") + text.toHtmlEscaped().replace('\n', QLatin1String("<br>")) + QLatin1String("</qt>")
+        : text;
 }
 
 QString WithPumpBackLimit(const QString& text)

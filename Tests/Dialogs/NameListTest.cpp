@@ -227,11 +227,13 @@ TEST_F(NameList, LosesNothingWhenAStickFails)
         Confirm("importList");
         EXPECT_EQ(Read(), "Keine Datei mit Endung \".csv\" vorgefunden");
 
-        fs::create_symlink("/nowhere", stick / "<i>100%1 \"&lt;.csv");
-        Confirm("importList");
-        EXPECT_TRUE(Robot::ClickRow("fileNameList", "<i>100%1 \"&lt;.csv"));
-        Robot::Click("buttonOk");
-        EXPECT_EQ(Read(), "Datei \"<i>100%1 \"&lt;.csv\" kann nicht gelesen werden");
+        for (const char* name : {"<i>100%1 \"&lt;.csv", "&lt;.csv"}) {
+            fs::create_symlink("/nowhere", stick / name);
+            Confirm("importList");
+            EXPECT_TRUE(Robot::ClickRow("fileNameList", name));
+            Robot::Click("buttonOk");
+            EXPECT_EQ(Read(), QStringLiteral("Datei \"%1\" kann nicht gelesen werden").replace("%1", name));
+        }
         EXPECT_EQ(Robot::TextOf("headerTxtNum"), "(2)");
 
         fs::create_symlink("/dev/full", stick / "MeaNameList.csv");
