@@ -132,7 +132,8 @@ bool DlgKeyboard::eventFilter(QObject* watched, QEvent* event)
         const QPoint place = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
         QPushButton* button = qobject_cast<QPushButton*>(childAt(mapFromGlobal(place)));
         if (button && !popup->geometry().contains(place)) {
-            button->animateClick();
+            // Queued, since the click may close the pop-up that is handling this touch.
+            QMetaObject::invokeMethod(button, &QPushButton::click, Qt::QueuedConnection);
             return true;
         }
     }
