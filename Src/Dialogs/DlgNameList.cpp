@@ -201,7 +201,13 @@ QString DlgNameList::ImportFrom(const RR::String& mntPoint)
     QStringList shownNames;
     for (auto file = files.First(); !file.IsNil(); file.Next()) {
         names.append(RR::PATH_GetFile(file().pathFile));
-        shownNames.append(ShownFileName(names.last()));
+        // Two encodings of one name look the same; the list hands back what it shows.
+        const QString shown = ShownFileName(names.last());
+        QString unique = shown;
+        for (int n = 2; shownNames.contains(unique); ++n) {
+            unique = QStringLiteral("%1 (%2)").arg(shown).arg(n);
+        }
+        shownNames.append(unique);
     }
     QString chosen;
     if (!DlgFileList::Show(tr("Verfügbare Dateien"), shownNames, chosen)) {

@@ -220,6 +220,25 @@ TEST_F(NameList, ComesBackFromAStickAsItWas)
     EXPECT_FALSE(RR::FILE_IsPresent("/mnt/usb-storage/MeaNameList.csv")) << "still mounted";
 }
 
+TEST_F(NameList, ImportsTheFileThatWasChosenOfTwoThatLookAlike)
+{
+    std::ofstream(stick / "\xC4.csv") << "ONE";
+    std::ofstream(stick / "\xC3\x84.csv") << "TWO";
+    QStringList imported;
+    for (const char* shown : {"Ä.csv", "Ä.csv (2)"}) {
+        Use([&] {
+            Confirm("importList");
+            EXPECT_TRUE(Robot::ClickRow("fileNameList", shown));
+            Robot::Click("buttonOk");
+            Read();
+            Robot::Click("buttonApply");
+        });
+        imported += list;
+    }
+    imported.sort();
+    EXPECT_EQ(imported, (QStringList{"ONE", "TWO"}));
+}
+
 TEST_F(NameList, LosesNothingWhenAStickFails)
 {
     list = {"ONE", "TWO"};
