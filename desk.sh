@@ -11,6 +11,7 @@
 #
 # The board is the folder desk/, which stays from run to run.
 set -euo pipefail
+caller="$PWD"
 cd "$(dirname "$0")"
 . Tools/machine.sh
 
@@ -77,14 +78,19 @@ stick() {
     case "${1:-}" in
         in)
             if [ -n "${2:-}" ]; then
-                [ -d "$2" ] || { echo "No such folder: $2" >&2; exit 2; }
+                local folder="$2"
+                [[ "$folder" = /* ]] || folder="$caller/$folder"
+                [ -d "$folder" ] || { echo "No such folder: $2" >&2; exit 2; }
+                # Copied first: the folder may be the content that the stick has.
+                rm -rf "$board/usb-stick.new"
+                mkdir -p "$board/usb-stick.new"
+                cp -R "$folder/." "$board/usb-stick.new/"
                 rm -rf "$board/usb-stick"
-                mkdir -p "$board/usb-stick"
-                cp -R "$2/." "$board/usb-stick/"
+                mv "$board/usb-stick.new" "$board/usb-stick"
             fi
             mkdir -p "$board/dev" "$board/usb-stick"
             : >"$board/dev/sda1" ;;
-        out) rm -f "$board/dev/sda1" ;;
+        out) rm -f "$board/dev/sda1" "$board/dev/sda1.content" ;;
         *) echo "usage: ./desk.sh stick in [FOLDER] | stick out" >&2; exit 2 ;;
     esac
 }

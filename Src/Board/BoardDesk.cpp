@@ -86,13 +86,17 @@ bool Mount(const char* devNode, const char* mountPoint)
     if (!point.has_filename()) {
         point = point.parent_path();
     }
-    // The stick's content shows through a link that stands where the instrument has a mount point.
+    // The stick's content shows through a link that stands where the instrument has a mount point. It leads by way of
+    // another one beside the device node, which goes with the stick when that is pulled.
     if (fs::is_symlink(point, failed)) {
         errno = EBUSY;
         return false;
     }
+    const fs::path content = Locate(devNode) + ".content";
+    fs::remove(content, failed);
+    fs::create_directory_symlink(fs::path(Root()) / "usb-stick", content, failed);
     fs::remove(point, failed);
-    fs::create_directory_symlink(fs::path(Root()) / "usb-stick", point, failed);
+    fs::create_directory_symlink(content, point, failed);
     errno = failed.value();
     return !failed;
 }
@@ -105,6 +109,7 @@ void Unmount(const char* mountPoint)
         point = point.parent_path();
     }
     if (fs::is_symlink(point, ignored)) {
+        fs::remove(fs::read_symlink(point, ignored), ignored);
         fs::remove(point, ignored);
         fs::create_directory(point, ignored);
     }
