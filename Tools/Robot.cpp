@@ -9,6 +9,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 #include <atomic>
 #include <cstdio>
 #include <thread>
@@ -78,19 +79,32 @@ QWidget* TopWindow()
 QWidget* FindWidget(const char* objectName)
 {
     const QWidget* modal = QApplication::activeModalWidget();
+    const QWidget* popup = QApplication::activePopupWidget();
     for (QWidget* widget : QApplication::allWidgets()) {
         if (widget->objectName() == QLatin1String(objectName) && widget->isVisible()
-            && (!modal || widget->window() == modal)) {
+            && (!modal || widget->window() == modal || widget->window() == popup)) {
             return widget;
         }
     }
     return nullptr;
 }
 
-/// Clicks without waiting for what the click leads to, which may be a dialog.
-void ClickLater(QWidget* widget, const QPoint& place)
+/// Touches the glass at the middle of a part of the widget, without waiting for what that leads to, which may be a
+/// dialog. False if a finger would meet another widget there.
+bool Touch(QWidget* widget, const QRect& part)
 {
-    QTimer::singleShot(0, widget, [widget, place] { QTest::mouseClick(widget, Qt::LeftButton, {}, place); });
+    QWidget* window = widget->window();
+    const QPoint place = widget->mapTo(window, (part & widget->rect()).center());
+    const QWidget* met = window->childAt(place);
+    const QWidget* popup = QApplication::activePopupWidget();
+    if ((met && met != widget && !widget->isAncestorOf(met)) || (!met && widget != window)
+        || (popup && popup != window && popup->geometry().contains(window->mapToGlobal(place)))) {
+        return false;
+    }
+    QTimer::singleShot(0, window, [window, place] {
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+    });
+    return true;
 }
 
 }
@@ -206,11 +220,7 @@ bool Click(const char* objectName, int limitMs)
 {
     return WaitFor([&] {
         QWidget* widget = FindWidget(objectName);
-        if (!widget || !widget->isEnabled()) {
-            return false;
-        }
-        ClickLater(widget, widget->rect().center());
-        return true;
+        return widget && widget->isEnabled() && Touch(widget, widget->rect());
     }, limitMs);
 }
 
@@ -223,8 +233,7 @@ bool ClickRow(const char* listName, const QString& text)
             return false;
         }
         list->scrollTo(rows.first());
-        ClickLater(list->viewport(), list->visualRect(rows.first()).center());
-        return true;
+        return Touch(list->viewport(), list->visualRect(rows.first()));
     });
 }
 

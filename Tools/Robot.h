@@ -8,7 +8,7 @@
 
 /// Operates the running program as a finger would: by widgets on the screen, found by object name.
 /// A scenario runs on a thread of its own, so that it can follow into modal dialogs; each function below does its
-/// work on the event loop's thread. Where a modal dialog is open, only its widgets can be found.
+/// work on the event loop's thread. Where a modal dialog is open, only its widgets and those of a pop-up can be found.
 namespace Robot {
 
 /// Runs `scenario` once the event loop of the application runs. Made before `main`, as a static object.
@@ -61,9 +61,10 @@ bool WaitForShown(const char* objectName, int limitMs = 5000);
 bool WaitForGone(const char* objectName, int limitMs = 5000);
 bool IsEnabled(const char* objectName);
 
-/// Waits until the widget is shown and enabled, and clicks its middle. False if that doesn't come within `limitMs`.
+/// Waits until the widget is shown and enabled and nothing covers its middle, and touches that. False if it doesn't
+/// come so far within `limitMs`.
 bool Click(const char* objectName, int limitMs = 5000);
-/// Clicks the row of that text in a list.
+/// Touches the row of that text in a list.
 bool ClickRow(const char* listName, const QString& text);
 /// Presses the keys of the on-screen keyboard whose captions make up `text`.
 bool TypeOnScreen(const QString& text);
