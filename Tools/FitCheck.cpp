@@ -1,12 +1,17 @@
 #include "FitCheck.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QGlyphRun>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionButton>
+#include <QTextDocument>
+#include <QTextLayout>
 #include <QWidget>
 
 namespace {
@@ -49,6 +54,39 @@ bool IsTextCut(const QAbstractButton& button)
     return !Holds(PlaceOfText(button).size(), needed);
 }
 
+bool IsTextCut(const QAbstractSpinBox& box)
+{
+    const QLineEdit* line = box.findChild<const QLineEdit*>();
+    // The line leaves 2 pixels on each side of its text.
+    return !line || line->width() - 4 < line->fontMetrics().horizontalAdvance(line->text());
+}
+
+QString TextOf(const QWidget& widget)
+{
+    const QString text = widget.property("text").toString();
+    if (!qobject_cast<const QLabel*>(&widget) || !Qt::mightBeRichText(text)) {
+        return text;
+    }
+    QTextDocument page;
+    page.setHtml(text);
+    return page.toPlainText();
+}
+
+/// No glyph of the fonts stands for some character, so that a box or nothing is drawn.
+bool IsUncovered(const QString& text, const QFont& font)
+{
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        if (run.glyphIndexes().contains(0)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// What a scroll area hides can be brought into view.
 bool IsInScrollArea(const QWidget& widget)
 {
@@ -82,7 +120,7 @@ void CheckText(const QWidget& window, QStringList& faults)
         if (!widget->isVisible() || widget->objectName().isEmpty() || widget->objectName().startsWith(QLatin1String("qt_"))) {
             continue;
         }
-        const QString name = Describe(*widget, widget->text());
+        const QString name = Describe(*widget, widget->property("text").toString());
         if (IsTextCut(*widget)) {
             faults.append(name + QStringLiteral(": text larger than its place of %1 x %2").arg(widget->width()).arg(widget->height()));
         }
@@ -105,11 +143,24 @@ QStringList Faults(const QWidget& window, bool mayScroll)
     }
     CheckText<QLabel>(window, faults);
     CheckText<QAbstractButton>(window, faults);
+    CheckText<QAbstractSpinBox>(window, faults);
     if (!mayScroll) {
         for (const QScrollArea* area : window.findChildren<QScrollArea*>()) {
             if (area->isVisible() && (area->verticalScrollBar()->maximum() > 0 || area->horizontalScrollBar()->maximum() > 0)) {
                 faults.append(QStringLiteral("%1: text scrolls").arg(area->objectName()));
             }
+        }
+    }
+    return faults;
+}
+
+QStringList UncoveredTexts(const QWidget& window)
+{
+    QStringList faults;
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        const QString text = TextOf(*widget);
+        if (widget->isVisible() && IsUncovered(text, widget->font())) {
+            faults.append(Describe(*widget, text) + QStringLiteral(": characters that no font has"));
         }
     }
     return faults;

@@ -18,7 +18,9 @@
 namespace {
 
 /// German, and what has a translation.
-const char* const languages[] = {"DE", "BR", "CN", "CZ", "ES", "FI", "FR", "IT", "JP", "KR", "PL", "RU", "UK", "US", "VN"};
+QStringList languages = {"DE", "BR", "CN", "CZ", "ES", "FI", "FR", "IT", "JP", "KR", "PL", "RU", "UK", "US", "VN"};
+/// The instrument's font covers these whole; a PC may lack the fonts that fill in for the others.
+const QStringList coveredLanguages = {"DE", "UK"};
 
 QString outFolder = QStringLiteral("out/gallery");
 
@@ -46,10 +48,10 @@ int ShowExhibit(const Gallery::Exhibit& exhibit, const QString& language)
         std::printf("%s: does not open\n", qPrintable(name));
         return 1;
     }
-    if (exhibit.prepare) {
-        exhibit.prepare();
-    }
     QStringList faults;
+    if (exhibit.prepare && !exhibit.prepare()) {
+        faults.append(QStringLiteral("does not come into its state"));
+    }
     Robot::OnGui([&] {
         QWidget* dialog = QApplication::activeModalWidget();
         if (!dialog) {
@@ -58,6 +60,9 @@ int ShowExhibit(const Gallery::Exhibit& exhibit, const QString& language)
         }
         SavePicture(*dialog, QStringLiteral("%1/%2.png").arg(outFolder, name));
         faults.append(FitCheck::Faults(*dialog, exhibit.content == Gallery::EXTREME));
+        if (coveredLanguages.contains(language)) {
+            faults.append(FitCheck::UncoveredTexts(*dialog));
+        }
     });
     while (!running.HasEnded()) {
         Robot::OnGui([] {
@@ -98,13 +103,14 @@ int ShowAll()
     }
     QStringList shown;
     int faults = 0;
-    for (const char* code : languages) {
+    for (const QString& language : languages) {
+        const LangCC code(language.toLatin1().constData());
         bool selected = false;
         Robot::OnGui([&] { selected = HasLanguage(code) && SelectLanguage(code); });
         if (!selected) {
             continue;
         }
-        shown.append(QLatin1String(code));
+        shown.append(language);
         for (const Gallery::Exhibit& exhibit : exhibits) {
             faults += ShowExhibit(exhibit, shown.last());
         }
@@ -128,13 +134,16 @@ QString Said(const char* german, const char* english)
 
 }
 
-/// usage: zarn-gallery [FOLDER]
+/// usage: zarn-gallery [FOLDER [LANGUAGE...]]
 int main(int argc, char** argv)
 {
     Panel::ChooseScreen();
     QApplication application(argc, argv);
     if (argc > 1) {
         outFolder = QString::fromLocal8Bit(argv[1]);
+    }
+    if (argc > 2) {
+        languages = application.arguments().sliced(2);
     }
     QDir().mkpath(outFolder);
     Panel::Dress();

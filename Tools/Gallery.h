@@ -20,8 +20,8 @@ struct Exhibit {
     Content content;
     /// Opens the dialog and returns when it has closed.
     std::function<void()> show;
-    /// What a user does before the picture is taken, by the robot on its own thread.
-    std::function<void()> prepare = nullptr;
+    /// What a user does before the picture is taken, by the robot on its own thread. False if that failed.
+    std::function<bool()> prepare = nullptr;
 };
 
 /// The messages, and what texts are typed into; a new dialog is one more line there, or in the list below.

@@ -7,12 +7,18 @@
 #include "Dialogs/DlgQuestion.h"
 #include "Dialogs/DlgShutdown.h"
 #include "Dialogs/DlgStatement.h"
+#include "Board/Board.h"
 #include "Config.h"
 #include "Gallery.h"
+#include "Globals.h"
+#include "QFixP3SpinBox.h"
 #include "RRx/RRFile.h"
 #include "Robot.h"
 
+#include <QFormLayout>
 #include <QStringList>
+#include <filesystem>
+#include <fstream>
 
 namespace Gallery {
 
@@ -63,6 +69,85 @@ void ShowNames(QStringList names)
     DlgNameList::Show(names, chosen);
 }
 
+/// Presses a button and answers yes to the question that follows.
+bool Confirm(const char* button)
+{
+    return Robot::Click(button) && Robot::Click("buttonAccept");
+}
+
+/// A statement is open whose text holds `part`.
+bool WaitForStatement(const QString& part)
+{
+    return Robot::WaitFor([&] { return Robot::IsShown("buttonClose") && Robot::TextOf("body").contains(part); });
+}
+
+bool ImportFile(const char* name, const QString& statement)
+{
+    return Confirm("importList") && Robot::ClickRow("fileNameList", QLatin1String(name)) && Robot::Click("buttonOk")
+        && WaitForStatement(statement);
+}
+
+/// The list of names beside a stick with files to import, or one that can't be written.
+void ShowNamesWithStick(bool writable)
+{
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    const fs::path stick = Board::Locate("/usb-stick");
+    fs::remove_all(stick, ignored);
+    fs::create_directories(stick, ignored);
+    DlgNameList::SaveNameList("/usb-stick/Names.csv", MeasurementNames(20));
+    std::ofstream names(stick / "Many.csv");
+    for (int i = 0; i < 600; ++i) {
+        names << "NAME " << i << '\n';
+    }
+    names.close();
+    std::ofstream(stick / "Empty.csv").close();
+    fs::create_symlink("/nowhere", stick / "Damaged.csv", ignored);
+    if (!writable) {
+        fs::create_symlink("/dev/full", stick / "MeaNameList.csv", ignored);
+    }
+    std::ofstream(Board::Locate("/dev/sda1")).close();
+    ShowNames(MeasurementNames(7));
+    fs::remove(Board::Locate("/dev/sda1"), ignored);
+}
+
+void ShowSpinBoxes()
+{
+    QDialog dialog(nullptr, Qt::FramelessWindowHint);
+    // The box itself asks for less than both arrows and its text take; a form has to give it the width.
+    dialog.setFixedWidth(480);
+    QFormLayout* rows = new QFormLayout(&dialog);
+    rows->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    static const struct {
+        RR::FixPnt::Type type;
+        double raster;
+        double max;
+        const char* suffix;
+    } boxes[] = {{RR::FixPnt::FixP0, 10, 10000, " ppm"}, {RR::FixPnt::FixP1, 0.1, 100, " Vol.-%"}, {RR::FixPnt::FixP3, 0.001, 20, " bar"}};
+    for (const auto& box : boxes) {
+        QFixP3SpinBox* spinBox = new QFixP3SpinBox(&dialog);
+        spinBox->setObjectName(QStringLiteral("spinBox%1").arg(rows->rowCount()));
+        spinBox->SetOutputType(box.type);
+        spinBox->SetRaster(box.raster);
+        spinBox->setRange(-box.max, box.max);
+        spinBox->setSuffix(QLatin1String(box.suffix));
+        spinBox->setValue(-box.max);
+        rows->addRow(Said("Grenzwert:", "Limit:"), spinBox);
+    }
+    dialog.exec();
+}
+
+bool Dim(bool waiting)
+{
+    Robot::OnGui([waiting] {
+        DsplHalfbright();
+        if (waiting) {
+            DsplShowHourglass();
+        }
+    });
+    return true;
+}
+
 /// On a card that holds `names` from earlier measurements.
 void ShowKeyboard(QString word, const QStringList& names)
 {
@@ -89,6 +174,10 @@ std::vector<Exhibit> Exhibits()
     };
     const auto statement = [](const char* german, const char* english, bool center) {
         return [=] { DlgStatement::Show(Said(german, english), DlgStatement::CLOSE_60, center); };
+    };
+    const auto namesWithStick = [] { ShowNamesWithStick(true); };
+    const auto ask = [](const char* button) {
+        return [=] { return Robot::Click(button) && Robot::WaitForShown("buttonAccept"); };
     };
     return {
         {"DlgQuestion-delete", TYPICAL, question("Ausgewählte Messung löschen?", "Delete selected measurement?", DlgQuestion::YES_NO)},
@@ -136,19 +225,35 @@ std::vector<Exhibit> Exhibits()
         {"DlgFileList-hostile", EXTREME, [] { ShowFileList(HostileNames()); }},
         {"DlgFileList-empty", EXTREME, [] { ShowFileList({}); }},
         {"DlgKeyboard", TYPICAL, [] { ShowKeyboard(QStringLiteral("SCHALTFELD 7"), {}); }},
-        {"DlgKeyboard-offers", TYPICAL, [] { ShowKeyboard(QString(), MeasurementNames(7)); }, [] { Robot::TypeOnScreen(QStringLiteral("SC")); }},
-        {"DlgKeyboard-offers-long", EXTREME, [] { ShowKeyboard(QString(), LongNames()); }, [] { Robot::TypeOnScreen(QStringLiteral("W")); }},
+        {"DlgKeyboard-offers", TYPICAL, [] { ShowKeyboard(QString(), MeasurementNames(7)); }, [] { return Robot::TypeOnScreen(QStringLiteral("SC")); }},
+        {"DlgKeyboard-offers-long", EXTREME, [] { ShowKeyboard(QString(), LongNames()); }, [] { return Robot::TypeOnScreen(QStringLiteral("W")); }},
         {"DlgKeyboard-long", EXTREME, [] { ShowKeyboard(LongNames().first(), {}); }},
         {"DlgNameList-empty", TYPICAL, [] { ShowNames({}); }},
-        {"DlgNameList", TYPICAL, [] { ShowNames(MeasurementNames(7)); }, [] { Robot::ClickRow("nameList", MeasurementNames(7)[1]); }},
+        {"DlgNameList", TYPICAL, [] { ShowNames(MeasurementNames(7)); }, [] { return Robot::ClickRow("nameList", MeasurementNames(7)[1]); }},
         {"DlgNameList-many", EXTREME, [] { ShowNames(MeasurementNames(500)); }},
         {"DlgNameList-long", EXTREME, [] { ShowNames(LongNames()); }},
         {"DlgNameList-delete", EXTREME, [] { ShowNames(LongNames()); },
+         [] { return Robot::ClickRow("nameList", LongNames()[3]) && Robot::Click("deleteEntry") && Robot::WaitForShown("body"); }},
+        {"DlgNameList-delete-list", TYPICAL, namesWithStick, ask("deleteList")},
+        {"DlgNameList-import", TYPICAL, namesWithStick, ask("importList")},
+        {"DlgNameList-import-files", TYPICAL, namesWithStick, [] { return Confirm("importList") && Robot::WaitForShown("fileNameList"); }},
+        {"DlgNameList-imported", TYPICAL, namesWithStick, [] { return ImportFile("Names.csv", QStringLiteral("20")); }},
+        {"DlgNameList-limited", TYPICAL, namesWithStick, [] { return ImportFile("Many.csv", QStringLiteral("500")); }},
+        {"DlgNameList-none", TYPICAL, namesWithStick, [] { return ImportFile("Empty.csv", Said("Keine", "No entries")); }},
+        {"DlgNameList-unreadable", TYPICAL, namesWithStick, [] { return ImportFile("Damaged.csv", QStringLiteral("Damaged.csv")); }},
+        {"DlgNameList-export", TYPICAL, namesWithStick, ask("exportList")},
+        {"DlgNameList-exported", TYPICAL, namesWithStick,
+         [] { return Confirm("exportList") && WaitForStatement(Said("abgeschlossen", "completed")); }},
+        {"DlgNameList-full", TYPICAL, [] { ShowNamesWithStick(false); },
+         [] { return Confirm("exportList") && WaitForStatement(Said("voll", "No space")); }},
+        {"DlgNameList-failed", TYPICAL, [] { ShowNamesWithStick(false); },
          [] {
-             Robot::ClickRow("nameList", LongNames()[3]);
-             Robot::Click("deleteEntry");
-             Robot::WaitForShown("body");
+             return Confirm("exportList") && WaitForStatement(Said("voll", "No space")) && Robot::Click("buttonClose")
+                 && WaitForStatement(Said("fehlgeschlagen", "failed"));
          }},
+        {"QFixP3SpinBox", TYPICAL, ShowSpinBoxes},
+        {"Backdrop", TYPICAL, [] { ShowNames(MeasurementNames(7)); }, [] { return Dim(false); }},
+        {"WaitingSign", TYPICAL, [] { ShowNames(MeasurementNames(7)); }, [] { return Dim(true); }},
         {"DlgPlugUsbDev", TYPICAL,
          [] {
              RR::String mountPoint;
