@@ -11,6 +11,15 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+inline QStringList Numbered(int count)
+{
+    QStringList names;
+    for (int i = 0; i < count; ++i) {
+        names.append(QStringLiteral("N%1").arg(i));
+    }
+    return names;
+}
+
 /// Dialogs on a screen of the instrument's size, in its font and style, in German.
 class DialogTest : public testing::Test {
 protected:

@@ -45,22 +45,13 @@ protected:
     }
 };
 
-TEST_F(PlugUsbDevTest, APartitionIsFoundBeforeABareDevice)
+TEST_F(PlugUsbDevTest, APluggedStickIsMountedWithoutAQuestionAndAPartitionFirst)
 {
     EXPECT_TRUE(DlgPlugUsbDev::GetDevNode().IsEmpty());
-    const struct {
-        const char* plugged;
-        const char* found;
-    } rows[] = {{"/dev/sda", "/dev/sda"}, {"/dev/sdb2", "/dev/sdb2"}, {"/dev/sdb1", "/dev/sdb1"}, {"/dev/sda1", "/dev/sda1"}};
-    for (const auto& row : rows) {
-        Plug(row.plugged);
-        EXPECT_STREQ(DlgPlugUsbDev::GetDevNode(), row.found);
+    for (const char* node : {"/dev/sda", "/dev/sdb2", "/dev/sdb1", "/dev/sda1"}) {
+        Plug(node);
+        EXPECT_STREQ(DlgPlugUsbDev::GetDevNode(), node);
     }
-}
-
-TEST_F(PlugUsbDevTest, APluggedStickIsMountedWithoutAQuestion)
-{
-    Plug("/dev/sda1");
     RR::String mountPoint = "old";
     EXPECT_EQ(MessageOf([&] { EXPECT_TRUE(DlgPlugUsbDev::Show(mountPoint)); }), QString());
     EXPECT_STREQ(mountPoint, CFG::UsbMountPoint);
