@@ -111,15 +111,15 @@ void ShowInnerPressWarning(double operationBar)
     DlgInnerPressWarning::Show();
 }
 
-void AwaitPressure()
+bool AwaitPressure()
 {
-    Robot::WaitFor([] { return !Robot::TextOf("pressValue").isEmpty(); });
+    return Robot::WaitFor([] { return !Robot::TextOf("pressValue").isEmpty(); });
 }
 
-void LoseAirPressure()
+bool LoseAirPressure()
 {
     Robot::OnGui([] { scripted.airPressure = RR::INVALID; });
-    Robot::WaitFor([] { return Robot::TextOf("pressDiagnosis").contains(QLatin1String("...")); });
+    return Robot::WaitFor([] { return Robot::TextOf("pressDiagnosis").contains(QLatin1String("...")); });
 }
 
 }
@@ -131,8 +131,7 @@ std::vector<Exhibit> ProcessExhibits()
         {"DlgMeaStart-series", TYPICAL, [] { ShowMeaStart(true); }},
         {"DlgMeaStart-interval", TYPICAL, [] { ShowMeaStart(true); },
          [] {
-             Robot::Click("autoMeaBInterval");
-             Robot::WaitFor([] { return QApplication::activePopupWidget() != nullptr; });
+             return Robot::Click("autoMeaBInterval") && Robot::WaitFor([] { return QApplication::activePopupWidget() != nullptr; });
          }},
         {"DlgMeaResult-passed", TYPICAL, [] { ShowMeaResult(0); }},
         {"DlgMeaResult-failed", TYPICAL, [] { ShowMeaResult(120); }},
