@@ -98,8 +98,8 @@ void WriteIndex(const std::vector<Gallery::Exhibit>& exhibits, const QStringList
 int ShowAll()
 {
     std::vector<Gallery::Exhibit> exhibits = Gallery::Exhibits();
-    for (const Gallery::Exhibit& exhibit : Gallery::ProcessExhibits()) {
-        exhibits.push_back(exhibit);
+    for (const auto& more : {Gallery::ProcessExhibits(), Gallery::WindowExhibits()}) {
+        exhibits.insert(exhibits.end(), more.begin(), more.end());
     }
     QStringList shown;
     int faults = 0;

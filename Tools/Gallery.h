@@ -28,6 +28,8 @@ struct Exhibit {
 std::vector<Exhibit> Exhibits();
 /// What frames a measurement and the other gas processes, with a scripted sensor unit.
 std::vector<Exhibit> ProcessExhibits();
+/// The main window, on the same unit.
+std::vector<Exhibit> WindowExhibits();
 
 /// The text in the language that is selected, as a caller of a dialog would hand it in.
 QString Said(const char* german, const char* english);
