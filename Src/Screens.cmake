@@ -1,5 +1,5 @@
 set(screens_sources
-  WndMain.cpp WndMainStart.cpp WndMainSensors.cpp WndMainStatus.cpp WndMainJobs.cpp WndMainMeasurements.cpp InspectionMode.cpp)
+  WndMain.cpp WndMainStart.cpp WndMainSensors.cpp WndMainStatus.cpp WndMainJobs.cpp WndMainJobEnds.cpp WndMainMeasurements.cpp InspectionMode.cpp)
 zarn_layer(screens SOURCES ${screens_sources} LINK dialogs jobs Qt6::Widgets PCH <QtWidgets>)
 set_target_properties(screens PROPERTIES AUTOUIC_SEARCH_PATHS ${CMAKE_CURRENT_SOURCE_DIR})
 

@@ -91,6 +91,7 @@ void WndMain::ConnectControls()
     connect(ui->switchToSensorView, &QToolButton::clicked, this, &WndMain::OnToggleView);
     connect(ui->switchToChartView, &QToolButton::clicked, this, &WndMain::OnToggleView);
     connect(ui->startMea, &QPushButton::clicked, this, &WndMain::OnStartMea);
+    connect(ui->startInspJob, &QPushButton::clicked, this, &WndMain::OnStartInspJob);
     connect(ui->emptyDepot, &QPushButton::clicked, this, &WndMain::OnEmptyDepot);
     connect(ui->stopJob, &QPushButton::clicked, this, &WndMain::OnStopJob);
     connect(ui->sysEvacuation, &QPushButton::clicked, this, &WndMain::OnSysEvacuation);
@@ -101,7 +102,6 @@ void WndMain::LockUnservedControls()
 {
     ui->settTab0->setEnabled(false);
     ui->settTab2->setEnabled(false);
-    ui->startInspJob->setEnabled(false);
     for (QWidget* control : {ui->setShowSystemInfo, ui->setShowSensorInfo, ui->setSystemSelftest, ui->setDateTime, ui->setLanguage,
                              ui->setFactoryDefaults}) {
         control->setEnabled(false);

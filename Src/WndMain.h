@@ -60,6 +60,7 @@ private slots:
     void OnStartMea();
     void OnStartJobD();
     void OnStartJobE();
+    void OnStartInspJob();
     void OnEmptyDepot();
     void OnStopJob();
     void OnJobSTMStarted();
@@ -113,15 +114,35 @@ private:
     void OnMeaTable(const QModelIndex& index);
     void ShowMeaPreview(const MeaHeader* header);
 
-    bool OnMeasurementStopped();
-    bool OnTransferStopped();
-    bool OnPreparationStopped();
-    void SaveMeasurement(const Mea& mea);
-    void LockTabs(bool busy);
+    // Start of jobs.
+    bool PlanMeasurement(JobStateMachine::Type type);
+    bool SetMeasurementName();
+    void StartInspectionPass();
     void StartAfterBalance(JobStateMachine::Type type, void (WndMain::*again)());
+    QString ShowStartedJob(JobStateMachine::Type type);
+    QString StopQuestion() const;
+    void StopSeries();
+
+    // End of jobs. Those that return a bool tell whether the window is to return to rest.
+    bool HasProcessEnded();
+    bool OnMeasurementStopped();
+    bool DealWithGas(const Mea& mea, RR::FixPnt3 depotBar);
+    bool OnPumpBackStopped();
+    bool OnEmptyingStopped();
+    bool OnBalanceStopped();
+    bool OnFlushingStopped();
+    bool OnPurificationStopped();
+    void AskForFollowUp();
+    void TellBalanced();
+    void EndSequence();
+    bool IsMeasuringSequence() const;
+    void ReturnToRest();
+    void SaveMeasurement(const Mea& mea);
+    void DeleteOldestMeasurements();
 
     static constexpr int fieldNum = 6; ///< of the gas sensors
     static constexpr int none = RR::INVALID;
+    static constexpr int meaCapacityMax = 500; ///< stored measurements
 
     std::unique_ptr<Ui_WndMain> ui;
     QTimer secTimer;

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int capacity = 500; ///< of stored measurements
-
 void MarkVerdict(QTableWidgetItem& cell, Mea::Result result)
 {
     if (result == Mea::PASSED) {
@@ -74,8 +72,8 @@ void WndMain::OnEquipControls()
     ui->setPressUnit->setCurrentIndex(settings.unitPressure);
     ui->setHumidityUnit->setCurrentIndex(settings.unitHumidity);
     ui->setTempUnit->setCurrentIndex(settings.unitTemperature);
-    ui->meaCapacity->setMaximum(capacity);
-    ui->setDelOldestMea->setText(tr("Bei mehr als %1\nMessungen:\nÄlteste löschen").arg(capacity));
+    ui->meaCapacity->setMaximum(meaCapacityMax);
+    ui->setDelOldestMea->setText(tr("Bei mehr als %1\nMessungen:\nÄlteste löschen").arg(meaCapacityMax));
     ui->setDelOldestMea->setChecked(settings.delOldestMea);
     ShowStatusTime(RR::DateTime::Now());
     OnMeaTable(ui->meaTable->currentIndex());
