@@ -234,8 +234,8 @@ void WndMain::OnJobSTMStarted()
     ui->mainTabWidget->setTabEnabled(1, false);
     ui->mainTabWidget->setTabEnabled(2, false);
     ui->shutdown->setEnabled(false);
-    ui->chartView->setStyleSheet("QWidget#chartView{background: rgb(0, 162, 0, 80);}");
-    ui->sensorView->setStyleSheet("QWidget#sensorView{background: rgb(0, 162, 0, 80);}");
+    ui->chartView->setStyleSheet("QWidget#chartView{background: rgba(0, 162, 0, 80);}");
+    ui->sensorView->setStyleSheet("QWidget#sensorView{background: rgba(0, 162, 0, 80);}");
     ui->statusInfo->setCurrentIndex(1);
     ui->jobStackedWidget->setCurrentIndex(1);
     StatusMsg(ShowStartedJob(jobSTM.GetType()));

@@ -18,6 +18,7 @@
 namespace {
 
 constexpr int preparationLimitMs = 15 * 60 * 1000;
+constexpr int pumpBackLimitMs = 10 * 60 * 1000;
 constexpr int measurementLimitMs = 20 * 60 * 1000;
 
 bool fault(const char* text)
@@ -47,17 +48,31 @@ bool TakeMeasurement()
         return fault("the instrument doesn't become ready");
     }
     Robot::TakePicture(PictureFile("1-ready.png"));
-    if (!Robot::Click("startMea")) {
-        return fault("the start button stays disabled");
+    if (!Robot::Click("startMea") || !Robot::Click("buttonStartB")) {
+        return fault("the measurement can't be chosen");
+    }
+    if (!Robot::WaitForShown("lineEdit") || !Robot::Click("buttonClr") || !Robot::TypeOnScreen("FELD 7") || !Robot::Click("buttonOk")) {
+        return fault("the name can't be typed");
     }
     if (!Robot::WaitFor([] { return jobSTM.GetType() == JobStateMachine::TYPE_B && jobSTM.GetProgress() >= 50; }, measurementLimitMs)) {
         return fault("the measurement doesn't get on");
     }
     Robot::TakePicture(PictureFile("2-measuring.png"));
-    if (!Robot::WaitForShown("startMea", measurementLimitMs)) {
+    if (!Robot::WaitForShown("resultText", measurementLimitMs)) {
         return fault("the measurement doesn't end");
     }
     Robot::TakePicture(PictureFile("3-result.png"));
+    Robot::Click("buttonClose");
+    if (!Robot::WaitForShown("buttonStartD")) {
+        return fault("nobody asks what is to become of the gas");
+    }
+    Robot::TakePicture(PictureFile("4-follow-up.png"));
+    Robot::Click("buttonStartD");
+    if (!Robot::WaitFor([] { return jobSTM.GetType() == JobStateMachine::TYPE_D; }, pumpBackLimitMs)
+        || !Robot::WaitForShown("startMea", pumpBackLimitMs)) {
+        return fault("the gas isn't pumped back");
+    }
+    Robot::TakePicture(PictureFile("5-pumped-back.png"));
     return true;
 }
 
