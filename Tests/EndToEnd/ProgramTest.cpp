@@ -108,6 +108,7 @@ TEST_F(Program, TheNameTypedStandsInTheRecordAndAtTheHeadOfTheList)
 {
     ASSERT_TRUE(WaitForReady());
     Robot::OnGui([] { settings.sensPassageTime = 30; });
+    Tell("set port3 container 0");
     ASSERT_TRUE(Robot::Click("startMea") && Robot::Click("buttonStartC"));
     ASSERT_TRUE(Robot::WaitForShown("lineEdit") && Robot::Click("buttonClr") && Robot::TypeOnScreen("FELD 7") && Robot::Click("buttonOk"));
     ASSERT_TRUE(Robot::WaitFor([] { return jobSTM.GetType() == Jobs::TYPE_C; }, 60 * secondMs));
@@ -172,7 +173,8 @@ TEST_F(Program, APulledUnitEndsTheJobAndIsFoundAgain)
         || tavorDev.GetCompressor() == TavorDev::COMPRESSOR_FAILURE
         || tavorDev.GetPressure(TavorDev::PRESSENS_P1)[Pressure::BAR] == RR::INVALID_DOUBLE; }, 200 * secondMs));
     // Three seconds, and a few exchanges that run into the serial driver's silence, which no clock speeds up.
-    EXPECT_TRUE(Robot::WaitForShown("errNoText", 15 * secondMs));
+    EXPECT_TRUE(Robot::WaitFor([] { return jobSTM.GetSnapshot().stopCategory == Jobs::COMPONENT_FAILURE; }, 15 * secondMs));
+    EXPECT_TRUE(Robot::WaitForShown("errNoText", 60 * secondMs));
     EXPECT_TRUE(Robot::Click("buttonClose"));
     EXPECT_TRUE(StoredFiles().empty());
     Tell("plug");
