@@ -895,14 +895,6 @@ Self-purification process was initiated</translation>
         <translation>Humidity</translation>
     </message>
     <message>
-        <source>Einlassdruck</source>
-        <translation>Inlet pressure</translation>
-    </message>
-    <message>
-        <source>Depot</source>
-        <translation>Storage</translation>
-    </message>
-    <message>
         <source>Messung</source>
         <translation>Measurement</translation>
     </message>
@@ -911,16 +903,8 @@ Self-purification process was initiated</translation>
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>Ausschalten</source>
-        <translation>Switch off</translation>
-    </message>
-    <message>
         <source>Interne Speicherkarte fehlt oder ist fehlerhaft</source>
         <translation>Internal memory card missing or damaged</translation>
-    </message>
-    <message>
-        <source>Interne Speicherkarte: Zugriffsfehler</source>
-        <translation>Internal memory card: access error</translation>
     </message>
     <message>
         <source>UNBENANNT</source>
@@ -1255,6 +1239,123 @@ Messungen:
         <translation>In case of more than
 %1 measurements:
 Delete oldest</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang abgebrochen!
+
+</source>
+        <translation>Pump back process aborted!
+
+</translation>
+    </message>
+    <message>
+        <source>Depotleerung abgebrochen!
+
+</source>
+        <translation>Storage emptying aborted!
+
+</translation>
+    </message>
+    <message>
+        <source>Bereitstellung abgebrochen!
+
+</source>
+        <translation>Preparation aborted!
+
+</translation>
+    </message>
+    <message>
+        <source>Vorgang abgebrochen</source>
+        <translation>Process canceled</translation>
+    </message>
+    <message>
+        <source>%1 Messungen durchgeführt.
+</source>
+        <translation>%1 Measurements completed.</translation>
+    </message>
+    <message>
+        <source>Gerät Betriebsbereit</source>
+        <translation>Device ready for use</translation>
+    </message>
+    <message>
+        <source>Nächste Messung in ...</source>
+        <translation>Next measurement in ...</translation>
+    </message>
+    <message>
+        <source>Vorgang abgebrochen!
+
+</source>
+        <translation>Process canceled!
+
+</translation>
+    </message>
+    <message>
+        <source>Warnung!
+
+</source>
+        <translation>Warning!
+
+</translation>
+    </message>
+    <message>
+        <source>Die Speicherkapazität von %1 Messungen ist erreicht.&lt;p&gt;&lt;i&gt;Bitte Messungen löschen oder Option&lt;br&gt;&lt;b&gt;Automatischen Löschung&lt;/b&gt;&lt;br&gt;aktivieren.&lt;/i&gt;</source>
+        <translation>The limit of %1 measurements is reached. &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;"automatic cancellation".&lt;/b&gt;&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Die Speicherkapazität von %1 Messungen wird bei Durchführung der geplanten %2 Messungen überschritten.&lt;p&gt;&lt;i&gt;Bitte Messungen löschen oder Option&lt;br&gt;&lt;b&gt;Automatischen Löschung&lt;/b&gt;&lt;br&gt;aktivieren.&lt;/i&gt;</source>
+        <translation>The limit of %1 measurements will be reached with the planned %2 mesurements &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;"automatic cancellation".&lt;/b&gt;&lt;/i&gt;</translation>
+    </message>
+    <message>
+        <source>Name der Messung oder Messstelle</source>
+        <translation>Name of measurement or measurement point</translation>
+    </message>
+    <message>
+        <source>System evakuieren?</source>
+        <translation>Evacuate system?</translation>
+    </message>
+    <message>
+        <source>Evakuierung eingeleitet</source>
+        <translation>Evacuation initiated</translation>
+    </message>
+    <message>
+        <source>Evakuierung beendet</source>
+        <translation>Evacuation completed</translation>
+    </message>
+    <message>
+        <source>Mehrfachmessung abbrechen?</source>
+        <translation>Abort multiple measurement?</translation>
+    </message>
+    <message>
+        <source>Laufende Messung abbrechen?</source>
+        <translation>Stop current measurement?</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang abbrechen?</source>
+        <translation>Cancel pump back process?</translation>
+    </message>
+    <message>
+        <source>Depotleerung abbrechen?</source>
+        <translation>Cancel storage emptying?</translation>
+    </message>
+    <message>
+        <source>Bereitstellung abbrechen?</source>
+        <translation>Abort preparation?</translation>
+    </message>
+    <message>
+        <source>Vorgang abbrechen?</source>
+        <translation>Cancel procedure?</translation>
+    </message>
+    <message>
+        <source>Mehrfachmessung abgebrochen</source>
+        <translation>Multiple measurement aborted</translation>
+    </message>
+    <message>
+        <source>Messung %1 von %2 gestartet</source>
+        <translation>Measurement %1 of %2 initiated</translation>
+    </message>
+    <message>
+        <source>Rückpumpvorgang %1 von %2 gestartet</source>
+        <translation>Pump back process %1 of %2 initiated</translation>
     </message>
 </context>
 </TS>
