@@ -126,6 +126,7 @@ TEST_F(WindowTest, APressureThatEndedAJobStaysInYellowUntilTheNextJobEnds)
     const auto color = [](const char* field) { return Find<>(field).palette().color(QPalette::Window); };
     EXPECT_EQ(color("inletPressure"), gray);
     scripted.pressure[TavorDev::PRESSENS_INLET] = 0.9;
+    scripted.pressure[TavorDev::PRESSENS_DEPOT] = -0.1; // no gas to ask about
     QString shown;
     QColor inlet, depot;
     Robot::When([] { return Robot::TextOf("errNoText").contains("07"); }, [&] {
@@ -153,7 +154,11 @@ TEST_F(WindowTest, ValuesAreLiveBehindTheThresholdAndStayAfterwards)
     const auto field = [] { return Find<QWidget>("chartViewOutputPanel").findChildren<QLabel*>()[1]->text(); };
     EXPECT_EQ(field(), "\u2015 Vol.-%") << "the preparation shows no values";
     settings.sensPassageTime = 60;
+    scripted.pressure[TavorDev::PRESSENS_DEPOT] = -0.1;
     scripted.amount[TavorDev::SENSOR_SF6] = 98.7;
+    Robot::When([] { return Robot::IsShown("resultText"); }, [] {
+        QTest::mouseClick(QApplication::activeModalWidget()->findChild<QWidget*>("buttonClose"), Qt::LeftButton);
+    });
     jobSTM.Start(Jobs::TYPE_B);
     ASSERT_TRUE(WaitFor([] { return jobSTM.GetPhase() > 1; }));
     scripted.pressure[TavorDev::PRESSENS_INLET] = 5.0;
