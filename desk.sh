@@ -63,7 +63,7 @@ measure() {
             exec "$bin/SensorUnit/zarn-unit" --link "$1/dev/ttySAC0" --control "$1/unit.ctl" -- "$bin/Tools/zarn-measure"
         ' measure "$at" >out/measure.log 2>&1 || status=$?
     grep -aE '^(Verdict|File|measure):' out/measure.log || true
-    echo "Pictures: out/1-ready.png out/2-measuring.png out/3-result.png"
+    echo "Pictures: out/1-ready.png to out/5-pumped-back.png"
     return $status
 }
 

@@ -1,7 +1,7 @@
 # Sourced by the scripts: makes sure that the machine has what they call. Installs only what is missing.
 
 packages_build="g++ cmake ninja-build qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools librsvg2-bin"
-packages_test="libgtest-dev libgmock-dev faketime"
+packages_test="libgtest-dev libgmock-dev faketime fonts-dejavu-core"
 packages_desk="fonts-dejavu-core qt6-qpa-plugins faketime"
 packages_bench="libbenchmark-dev"
 packages_fuzz="clang libclang-rt-14-dev"
