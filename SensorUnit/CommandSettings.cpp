@@ -220,7 +220,7 @@ std::string GetPressures(const Unit& unit)
 {
     std::string text;
     for (int sensor = 0; sensor < PRESSURE_NUM; sensor++) {
-        text += (sensor ? " " : "") + Text(unit.machine.sensors.Pressure(PressureSensor(sensor)) / 1000.0);
+        text.append(sensor ? " " : "").append(Text(unit.machine.sensors.Pressure(PressureSensor(sensor)) / 1000.0));
     }
     return text;
 }
@@ -239,8 +239,8 @@ std::string GetSensors(const Unit& unit)
 std::string GetInfo(const Unit& unit)
 {
     const std::vector<std::uint8_t> info = unit.DeviceInfo();
-    const auto version = [](std::uint8_t byte) { return "V" + std::to_string(byte >> 4) + "." + std::to_string(byte & 15); };
-    return "type " + std::to_string(info[0]) + " " + version(info[1]) + " board " + std::to_string(info[2]) + " " + version(info[3]);
+    const auto version = [](std::uint8_t byte) { return std::to_string(byte >> 4) + "." + std::to_string(byte & 15); };
+    return "type " + std::to_string(info[0]) + " V" + version(info[1]) + " board " + std::to_string(info[2]) + " V" + version(info[3]);
 }
 
 std::string GetMode(const Unit& unit)

@@ -44,6 +44,20 @@ bool PointLink(const std::string& path, const std::string& target)
     return true;
 }
 
+/// 57600 baud, 8 bits, no parity, no handshake, every byte as it is. False if that isn't a terminal.
+bool MakeRaw(int descriptor)
+{
+    termios settings{};
+    if (descriptor < 0 || tcgetattr(descriptor, &settings) != 0) {
+        return false;
+    }
+    settings.c_iflag = IGNPAR;
+    settings.c_oflag = 0;
+    settings.c_lflag = 0;
+    settings.c_cflag = B57600 | CS8 | CREAD | CLOCAL;
+    return tcsetattr(descriptor, TCSANOW, &settings) == 0;
+}
+
 }
 
 Line::Line(bool paced)
@@ -73,21 +87,25 @@ bool Line::Open(const std::string& path)
         slavePath = name;
         slave = open(name, O_RDWR | O_NOCTTY | O_CLOEXEC);
     }
-    termios settings{};
-    if (slave < 0 || tcgetattr(slave, &settings) != 0) {
+    if (!MakeRaw(slave)) {
         Log("can't make a pseudo terminal: %s", std::strerror(errno));
         return false;
     }
-    settings.c_iflag = IGNPAR;
-    settings.c_oflag = 0;
-    settings.c_lflag = 0;
-    settings.c_cflag = B57600 | CS8 | CREAD | CLOCAL;
-    tcsetattr(slave, TCSANOW, &settings);
     fcntl(master, F_SETFL, O_NONBLOCK);
     if (!PointLink(path, slavePath)) {
         return false;
     }
     linkPath = path;
+    return true;
+}
+
+bool Line::OpenPort(const std::string& device)
+{
+    master = open(device.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
+    if (!MakeRaw(master)) {
+        Log("can't serve the serial port %s: %s", device.c_str(), std::strerror(errno));
+        return false;
+    }
     return true;
 }
 

@@ -20,8 +20,8 @@ struct LineCounters {
     std::uint64_t vanishedOut = 0;  ///< bytes not sent, since the line was cut or nobody took them
 };
 
-/// The unit's end of the serial line: a pseudo terminal behind a link of a fixed name. Bytes pass in both
-/// directions at the pace of 57600 baud, 10 bits a byte, whatever the pseudo terminal could do.
+/// The unit's end of the serial line: a pseudo terminal behind a link of a fixed name, or a real serial port. Through
+/// a pseudo terminal bytes pass in both directions at the pace of 57600 baud, 10 bits a byte; a real port has its own.
 class Line {
 public:
     explicit Line(bool paced);
@@ -32,6 +32,8 @@ public:
     /// Makes the pseudo terminal and lets the link `path` point to it, in place of an older link.
     /// False with a log line if that fails or if `path` is something other than a link.
     bool Open(const std::string& path);
+    /// Opens the serial port `device`. False with a log line if that fails or if it is no terminal.
+    bool OpenPort(const std::string& device);
 
     int Descriptor() const { return master; }
 

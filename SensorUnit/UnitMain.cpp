@@ -20,11 +20,12 @@ namespace {
 using namespace SensorUnit;
 
 constexpr const char* usage =
-    "zarn-unit --link PATH [--state FILE] [--control PATH] [--fast] [-- COMMAND ...]\n"
+    "zarn-unit --link PATH|--serial DEVICE [--state FILE] [--control PATH] [--fast] [-- COMMAND ...]\n"
     "zarn-unit ctl PATH WORD...\n"
     "zarn-unit image MAJOR MINOR\n"
     "\n"
     "  --link PATH     the serial line: a link to a pseudo terminal that the unit serves\n"
+    "  --serial DEVICE a real serial port that the unit serves instead\n"
     "  --state FILE    keeps what outlives a power cycle; without it each start is a new unit\n"
     "  --control PATH  listens for control commands; \"zarn-unit ctl PATH help\" lists them\n"
     "  --fast          answers at once instead of at the pace of 57600 baud\n"
@@ -33,7 +34,7 @@ constexpr const char* usage =
     "  image           writes a program image of that version to the standard output\n";
 
 struct Options {
-    std::string link, state, control;
+    std::string link, serial, state, control;
     bool fast = false;
     char** command = nullptr;
 };
@@ -50,13 +51,17 @@ bool ReadOptions(int argc, char** argv, Options& options)
             options.fast = true;
             continue;
         }
-        std::string* value = word == "--link" ? &options.link : word == "--state" ? &options.state : word == "--control" ? &options.control : nullptr;
+        std::string* value = word == "--link" ? &options.link
+            : word == "--serial"              ? &options.serial
+            : word == "--state"               ? &options.state
+            : word == "--control"             ? &options.control
+                                              : nullptr;
         if (!value || i + 1 >= argc) {
             return false;
         }
         *value = argv[++i];
     }
-    return !options.link.empty();
+    return options.link.empty() != options.serial.empty();
 }
 
 int signalPipe[2] = {-1, -1};
@@ -197,10 +202,12 @@ int main(int argc, char** argv)
     }
     const auto start = std::chrono::steady_clock::now();
     const auto now = [start] { return std::chrono::duration_cast<Micros>(std::chrono::steady_clock::now() - start); };
-    Unit unit(!options.fast, options.state);
+    const bool pseudo = options.serial.empty();
+    Unit unit(pseudo && !options.fast, options.state);
     Control control([&unit, now](const std::string& line) { return ExecuteCommand(unit, line, now()); });
     Companion companion;
-    if (!CatchSignals() || !unit.line.Open(options.link) || (!options.control.empty() && !control.Open(options.control))
+    const auto openLine = [&] { return pseudo ? unit.line.Open(options.link) : unit.line.OpenPort(options.serial); };
+    if (!CatchSignals() || !openLine() || (!options.control.empty() && !control.Open(options.control))
         || (options.command && !companion.Start(options.command))) {
         return 2;
     }
