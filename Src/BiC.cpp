@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cstring>
+#include <QVarLengthArray>
 #include <iterator>
 #include <string>
 
@@ -364,11 +365,11 @@ void BiC(const String& text, QString& value, const QString& fallback)
         value = fallback;
         return;
     }
-    QString read;
+    QVarLengthArray<QChar, 128> read;
     const char* piece = text;
     while (const char* const end = std::strchr(piece, ',')) {
-        read += QChar(ReadUnit(piece, end));
+        read.append(QChar(ReadUnit(piece, end)));
         piece = end + 1;
     }
-    value = read;
+    value = QString(read.constData(), read.size());
 }

@@ -188,12 +188,7 @@ String BiC(Mea::Result result)
 
 void BiC(const String& text, Mea::Result& result)
 {
-    result = Mea::NO_RESULT;
-    for (const Mea::Result known : {Mea::PASSED, Mea::FAILED}) {
-        if (text == BiC(known)) {
-            result = known;
-        }
-    }
+    result = text == "P" ? Mea::PASSED : text == "F" ? Mea::FAILED : Mea::NO_RESULT;
 }
 
 QString PrintResult(const Mea::Result& result)

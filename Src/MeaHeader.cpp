@@ -74,11 +74,15 @@ bool MeaHeader::Import(const String& key, const String& value)
     if (std::count(at, at + value.GetLen(), *separator) != fieldNum - 1) {
         return false;
     }
-    const auto next = [&at] {
+    // Most fields are as long as those of the header before, so that their memory serves again.
+    thread_local String fields[fieldNum];
+    String* field = fields;
+    const auto next = [&at, &field]() -> const String& {
         const SInt32 length = static_cast<SInt32>(std::strcspn(at, separator));
-        const String field(at, length);
+        field->SetLen(length);
+        std::memcpy(field->Adr(), at, static_cast<size_t>(length));
         at += length + 1;
-        return field;
+        return *field++;
     };
     fileName = key;
     BiC(next(), fileSize, INVALID);

@@ -5,6 +5,8 @@
 #include "PrintIt.h"
 
 #include <QBrush>
+#include <cstring>
+#include <strings.h>
 #include <QIcon>
 
 using namespace RR;
@@ -13,7 +15,7 @@ namespace {
 
 enum Column { COLUMN_DATE = 0, COLUMN_NAME = 1, COLUMN_VERDICT = 2, COLUMN_NUM = 3 };
 
-const char* const measurementPattern = "*.mea";
+const char* const measurementEnding = ".mea"; // in capitals or not
 
 String CachePath()
 {
@@ -42,11 +44,12 @@ void ListMeasurements(Files& files)
     DIR_List(PATH_Merge(CFG::MeaFilesFolder, "*"), found, DIR_FILES);
     const SInt32 nameAt = PATH_Merge(CFG::MeaFilesFolder, "*").GetLen() - 1;
     // A folder of a card lists its files in the order of their making, which is that of their names.
+    const SInt32 endingLength = static_cast<SInt32>(std::strlen(measurementEnding));
     typename Files::Handle latest;
     for (List<FileInfo>::Handle file = found.First(); !file.IsNil(); file.Next()) {
-        const String name = file().pathFile.Right(nameAt);
-        if (name.Matches(measurementPattern, false)) {
-            latest = files.Insert(name, latest);
+        const String& path = file().pathFile;
+        if (path.GetLen() >= nameAt + endingLength && strcasecmp(path.Adr() + path.GetLen() - endingLength, measurementEnding) == 0
+            && files.InsertUnique(path.Right(nameAt), latest, latest)) {
             std::swap(latest.Entry(), file());
         }
     }
