@@ -7,7 +7,6 @@
 #include "WndMain.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFont>
 #include <cstring>
 #include <string>
@@ -39,12 +38,6 @@ void PrintBanner()
             "Board-Type: %s\n"
             "\n",
         CFG::ApplType, CFG::ApplVers, CFG::BoardType);
-}
-
-QString TextOf(const char* resource)
-{
-    QFile file(resource);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 /// The program's arguments with those of the window system behind its name. Qt refers to them for as
@@ -81,7 +74,6 @@ int main(int argc, char** argv)
     }
     font.setPixelSize(20);
     QApplication::setFont(font);
-    application.setStyleSheet(TextOf(":/Style/zarn.qss"));
 
     settings.Load();
     Unmount(CFG::UsbMountPoint);

@@ -1,6 +1,7 @@
 #include "WndMain.h"
 
 #include "Dialogs/DlgStatement.h"
+#include "Dialogs/Look.h"
 #include "Globals.h"
 #include "InspectionMode.h"
 #include "PrintIt.h"
@@ -30,6 +31,8 @@ WndMain::WndMain(QWidget* parent, Qt::WindowFlags flags)
     : QMainWindow(parent, flags), ui(std::make_unique<Ui_WndMain>()), meaTable(nullptr)
 {
     ui->setupUi(this);
+    // A style sheet in force while the form is built would be applied anew on each level of its nested pages.
+    DressApplication();
     ConnectTavorDev();
     ConnectJobSTM();
     ConnectControls();

@@ -1,9 +1,9 @@
 #include "Panel.h"
 
 #include "Config.h"
+#include "Dialogs/Look.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QFont>
 #include <cstdlib>
 #include <string>
@@ -31,10 +31,7 @@ void Dress()
     QFont font(CFG::FontFamily);
     font.setPixelSize(20);
     QApplication::setFont(font);
-    QFile style(QStringLiteral(":/Style/zarn.qss"));
-    if (style.open(QIODevice::ReadOnly)) {
-        qApp->setStyleSheet(QString::fromUtf8(style.readAll()));
-    }
+    DressApplication();
 }
 
 }
