@@ -131,7 +131,7 @@ private:
     void DoR();
     void DoREndPressure();
     void CheckPumpStart();
-    bool IsPumpedOut();
+    void PumpUntilEmpty(std::initializer_list<TavorDev::Valve> path);
 
     // Names of the scripts. VL is a seventh valve that the unit switches as its first fan.
     static constexpr auto V1 = TavorDev::VALVE_V1, V2 = TavorDev::VALVE_V2, V3 = TavorDev::VALVE_V3,

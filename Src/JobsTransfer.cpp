@@ -12,9 +12,13 @@ void JobStateMachine::CheckPumpStart()
     NextPhaseAfterPause(tt[1]);
 }
 
-bool JobStateMachine::IsPumpedOut()
+void JobStateMachine::PumpUntilEmpty(std::initializer_list<TavorDev::Valve> path)
 {
-    return Await(!CheckPressure(P4, GREATER, pp[2]), E16);
+    if (Await(!CheckPressure(P4, GREATER, pp[2]), E16)) {
+        Close(path);
+        SetCompressor(false);
+        NextPhaseAfterPause(tt[5]);
+    }
 }
 
 /// The depot through port 1.
@@ -36,11 +40,7 @@ void JobStateMachine::DoD()
         break;
     case 3:
         StopIf(CheckPressure(P1, GREATER, pp[1]), E09);
-        if (IsPumpedOut()) {
-            Close({V1, V4});
-            SetCompressor(false);
-            NextPhaseAfterPause(tt[5]);
-        }
+        PumpUntilEmpty({V1, V4});
         break;
     case 4:
         Terminate(H00);
@@ -77,11 +77,7 @@ void JobStateMachine::DoE()
     case 3:
         StopIf(CheckPressure(P1, GREATER, pp[1]), E09);
         StopIf(CheckPressure(P1, LESS, pp[3]), E07);
-        if (IsPumpedOut()) {
-            Close({V4, V5});
-            SetCompressor(false);
-            NextPhaseAfterPause(tt[5]);
-        }
+        PumpUntilEmpty({V4, V5});
         break;
     case 4:
         Terminate(H00);
@@ -110,11 +106,7 @@ void JobStateMachine::DoL()
         break;
     case 3:
         StopIf(CheckPressure(P1, GREATER, pp[1]), E09);
-        if (IsPumpedOut()) {
-            Close({V4, V5});
-            SetCompressor(false);
-            NextPhaseAfterPause(tt[5]);
-        }
+        PumpUntilEmpty({V4, V5});
         break;
     case 4:
         Terminate(H00);

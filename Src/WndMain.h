@@ -90,10 +90,11 @@ private:
 
     void UpdateSensors();
     // These tell whether they have closed the window.
-    bool ShutsOffTooHot();
+    bool ShutsOffTooHot(const Temperature& reading);
     bool ShutsDownUnbalanced();
-    bool WarnOfInnerPressure();
     bool ShutsOffBatteryEmpty(const TavorDev::SupplyInfo& supply);
+    // False if the user gives up; the window is closed then.
+    bool WarnOfInnerPressure();
 
     void UpdateChart();
     void UpdateSensorValues(QLabel* const* labels);

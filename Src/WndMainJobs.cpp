@@ -78,6 +78,8 @@ bool WndMain::PlanMeasurement(JobStateMachine::Type type)
         TellFull(tr("Die Speicherkapazität von %1 Messungen wird bei Durchführung der geplanten %2 Messungen "
                     "überschritten.<p><i>Bitte Messungen löschen oder Option<br><b>Automatischen "
                     "Löschung</b><br>aktivieren.</i>").arg(meaCapacityMax).arg(autoMeasMaxNum));
+        autoMeaType = Jobs::TYPE_0;
+        doAutoPumpBack = false;
         return false;
     }
     return true;
@@ -135,11 +137,14 @@ void WndMain::OnStartInspJob()
         return;
     }
     inspJob = DlgInspJobStart::Show();
+    autoMeaActualNum = none;
+    autoMeasMaxNum = none;
     switch (inspJob.type) {
     case IJ_BD:
     case IJ_BE:
         if (!settings.delOldestMea && meaTable.GetSize() + inspJob.passMax >= meaCapacityMax) {
             TellFull(QStringLiteral("Nicht genügend Platz zur Speicherung der %1 Testläufe.").arg(inspJob.passMax));
+            inspJob.type = IJ_NONE;
             return;
         }
         StartInspectionPass();
@@ -234,6 +239,7 @@ void WndMain::OnJobSTMStarted()
     ui->mainTabWidget->setTabEnabled(1, false);
     ui->mainTabWidget->setTabEnabled(2, false);
     ui->shutdown->setEnabled(false);
+    // With an alpha value it has to be rgba: Qt leaves out an rgb of four numbers.
     ui->chartView->setStyleSheet("QWidget#chartView{background: rgba(0, 162, 0, 80);}");
     ui->sensorView->setStyleSheet("QWidget#sensorView{background: rgba(0, 162, 0, 80);}");
     ui->statusInfo->setCurrentIndex(1);

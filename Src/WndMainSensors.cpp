@@ -184,12 +184,13 @@ void WndMain::UpdateSensors()
     if (blockEvent) {
         return;
     }
-    const QString temperature = PrintTemperature(tavorDev.GetBoardTemperature());
+    const Temperature reading = tavorDev.GetBoardTemperature();
+    const QString temperature = PrintTemperature(reading);
     if (ui->statusTemp->text() != temperature) {
         ui->statusTemp->setText(temperature);
     }
     blockEvent = true;
-    blockEvent = ShutsOffTooHot() || ShutsDownUnbalanced();
+    blockEvent = ShutsOffTooHot(reading) || ShutsDownUnbalanced();
     if (blockEvent || ui->mainTabWidget->currentIndex() != 0) {
         return;
     }
@@ -202,11 +203,10 @@ void WndMain::UpdateSensors()
     UpdateSensorValues(chart ? chartViewOutputValue : sensorViewOutputValue);
 }
 
-bool WndMain::ShutsOffTooHot()
+bool WndMain::ShutsOffTooHot(const Temperature& reading)
 {
     // Service staff may go on up to 15 degrees Celsius above the limit.
     constexpr RR::SInt32 inspectionTolerance = 15;
-    const Temperature reading = tavorDev.GetBoardTemperature();
     const Temperature::Unit unit = settings.unitTemperature;
     if (reading[unit] == RR::INVALID) {
         return false;
@@ -229,15 +229,22 @@ bool WndMain::ShutsOffTooHot()
 
 bool WndMain::ShutsDownUnbalanced()
 {
-    if (jobSTM.IsRunning() || evacuationMode || inspectionMode || innerPressureWarned) {
+    // A window that has been closed only waits for the end of the event loop.
+    if (jobSTM.IsRunning() || evacuationMode || inspectionMode || !isVisible()) {
         return false;
     }
     if (!DlgInnerPressWarning::InnerPressureBalanced()) {
-        ui->statusInoperableSymb->show();
-        ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), 30);
-        ui->startMea->setEnabled(false);
-        ui->emptyDepot->setEnabled(false);
-        RR::Log("[ZARN] System not operational. Inner pressure out of limit.\n");
+        // The start has its own warning, which this may run under: then the window tells it once, and no second one opens.
+        if (!innerPressureWarned || ui->statusInoperableSymb->isHidden()) {
+            ui->statusInoperableSymb->show();
+            ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), 30);
+            ui->startMea->setEnabled(false);
+            ui->emptyDepot->setEnabled(false);
+            RR::Log("[ZARN] System not operational. Inner pressure out of limit.\n");
+        }
+        if (innerPressureWarned) {
+            return false;
+        }
         if (!WarnOfInnerPressure()) {
             return true;
         }
@@ -252,7 +259,6 @@ bool WndMain::ShutsDownUnbalanced()
     return false;
 }
 
-/// False if the user gives up; the window is closed then. The start and the supervision may come to it at the same time.
 bool WndMain::WarnOfInnerPressure()
 {
     innerPressureWarned = true;

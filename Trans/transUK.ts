@@ -70,7 +70,7 @@
         <translation>Cancel</translation>
     </message>
     <message>
-        <source>Die Druckverhältnisse im Inneren des Gerätes sind noch unausgeglichen.&lt;p&gt;&lt;b&gt;Evakuierung trotzdem Abbrechen?&lt;/b&gt;</source>
+        <source>Die Druckverhältnisse im Inneren des Gerätes sind noch unausgeglichen.&lt;p&gt;&lt;b&gt;Evakuierung trozdem Abbrechen?&lt;/b&gt;</source>
         <translation>Internal pressure is not yet  equalised.&lt;p&gt;&lt;b&gt; Abort process anyhow?&lt;/b&gt;</translation>
     </message>
 </context>

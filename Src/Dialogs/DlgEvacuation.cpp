@@ -75,7 +75,7 @@ void DlgEvacuation::OnClose()
     const bool balanced = DlgInnerPressWarning::InnerPressureBalanced() && !pressBalancedTimer.isActive();
     if (balanced
         || DlgQuestion::Show(tr("Die Druckverhältnisse im Inneren des Gerätes sind noch unausgeglichen."
-                                "<p><b>Evakuierung trotzdem Abbrechen?</b>"),
+                                "<p><b>Evakuierung trozdem Abbrechen?</b>"),
                              DlgQuestion::YES_NO, DlgQuestion::REJECT_20)) {
         close();
     }
