@@ -44,7 +44,7 @@ void FillFolder()
     const int nowhere = open("/dev/null", O_WRONLY);
     dup2(nowhere, STDOUT_FILENO);
     close(nowhere);
-    const std::string full = GetFile(MEA_CORPUS "/Full.mea");
+    const std::string full = ReadFile(MEA_CORPUS "/Full.mea");
     Require(full.find("96.5") != std::string::npos, "no measurement");
     const std::string contents[] = {full, "", std::string(full).replace(full.find("96.5"), 1, "8")};
     const std::chrono::sys_seconds when(std::chrono::seconds(1706745599));
@@ -99,9 +99,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MeaTable table(nullptr);
     table.Update();
     const std::vector<Row> rows = RowsOf(table);
-    const std::string written = GetFile(cache);
+    const std::string written = ReadFile(cache);
     table.Update();
     Require(RowsOf(table) == rows, "another table from its own cache");
-    Require(GetFile(cache) == written, "written without a change");
+    Require(ReadFile(cache) == written, "written without a change");
     return 0;
 }

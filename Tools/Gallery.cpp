@@ -5,6 +5,7 @@
 #include "Panel.h"
 #include "Robot.h"
 #include "Settings.h"
+#include "WndMain.h"
 
 #include <QApplication>
 #include <QDir>
@@ -24,12 +25,15 @@ const QStringList coveredLanguages = {"DE", "UK"};
 
 QString outFolder = QStringLiteral("out/gallery");
 
-/// The dialog where it stands on the screen, and what has popped up above it.
+/// The dialog where it stands on the screen, the main window behind it and what has popped up above it.
 void SavePicture(QWidget& dialog, const QString& file)
 {
     QImage picture(dialog.screen()->size(), QImage::Format_RGB32);
     picture.fill(QColor(120, 130, 140));
     QPainter painter(&picture);
+    if (wndMain && wndMain != &dialog) {
+        painter.drawPixmap(wndMain->pos(), wndMain->grab());
+    }
     painter.drawPixmap(dialog.pos(), dialog.grab());
     if (QWidget* popup = QApplication::activePopupWidget()) {
         painter.drawPixmap(popup->pos(), popup->grab());
@@ -64,6 +68,9 @@ int ShowExhibit(const Gallery::Exhibit& exhibit, const QString& language)
             faults.append(FitCheck::UncoveredTexts(*dialog));
         }
     });
+    if (exhibit.leave) {
+        exhibit.leave();
+    }
     while (!running.HasEnded()) {
         Robot::OnGui([] {
             if (QWidget* dialog = QApplication::activeModalWidget()) {

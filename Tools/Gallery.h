@@ -22,6 +22,8 @@ struct Exhibit {
     std::function<void()> show;
     /// What a user does before the picture is taken, by the robot on its own thread. False if that failed.
     std::function<bool()> prepare = nullptr;
+    /// What a user does behind it, where closing what is open would mean more than that.
+    std::function<void()> leave = nullptr;
 };
 
 /// The messages, and what texts are typed into; a new dialog is one more line there, or in the list below.

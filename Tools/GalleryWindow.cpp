@@ -29,8 +29,11 @@ fs::path OnBoard(const fs::path& path)
     return fs::path(Board::Root()) / path;
 }
 
+/// What takes longer than the second that the window waits before its second stage leaves that to it.
+enum Start { AT_ONCE, BY_ITSELF };
+
 /// Runs the window like a dialog until it is closed, on a healthy unit that `set` has changed.
-std::function<void()> Window(std::function<void()> set = [] {}, bool start = true)
+std::function<void()> Window(std::function<void()> set = [] {}, Start start = AT_ONCE)
 {
     return [set, start] {
         scripted.Reset();
@@ -48,7 +51,7 @@ std::function<void()> Window(std::function<void()> set = [] {}, bool start = tru
         wndMain->show();
         QEvent languageChange(QEvent::LanguageChange);
         QApplication::sendEvent(wndMain, &languageChange);
-        if (start) {
+        if (start == AT_ONCE) {
             QMetaObject::invokeMethod(wndMain, "On2ndStage", Qt::QueuedConnection);
         }
         while (wndMain->isVisible()) {
@@ -108,6 +111,54 @@ void Measure()
     Tick(45);
 }
 
+/// What the sensors of the path tell from now on.
+void SetPressure(TavorDev::PressureSensor sensor, double bar)
+{
+    Robot::OnGui([=] { scripted.pressure[sensor] = bar; });
+}
+
+/// Through the first measurement of a series and the pump back behind it.
+void MeasureInSeries()
+{
+    GetReady();
+    Robot::OnGui([] {
+        settings.sensPassageTime = 30;
+        settings.autoPumpBack = settings.autoMeaBEnabled = true;
+        settings.autoMeaBCount = 3;
+        settings.autoMeaBInterval = 90;
+    });
+    Robot::Click("startMea");
+    Robot::Click("buttonStartB");
+    Robot::Click("buttonOk");
+    Robot::WaitFor([] { return jobSTM.IsRunning(); });
+    Tick(3);
+    SetPressure(TavorDev::PRESSENS_INLET, 5.0);
+    Tick(60);
+    SetPressure(TavorDev::PRESSENS_INLET, 1.0);
+    Tick(1);
+    Robot::WaitFor([] { return jobSTM.GetType() == Jobs::TYPE_D; });
+    Tick(10);
+    SetPressure(TavorDev::PRESSENS_DEPOT, -0.1);
+    Tick(10);
+    Robot::WaitFor([] { return !wndMain->findChild<QLabel*>("statusAutoMeaTimer")->text().isEmpty(); });
+    Robot::OnGui([] {
+        QMetaObject::invokeMethod(wndMain, "OnStatusMessageTimeout");
+        emit tavorDev.Changed();
+    });
+}
+
+void PurifyInVain()
+{
+    GetReady();
+    Robot::OnGui([] { jobSTM.Start(Jobs::TYPE_J); });
+    Tick(5);
+    Robot::OnGui([] { scripted.valve[TavorDev::VALVE_PR_OUTLET] = TavorDev::VALVE_FAILURE; });
+    Tick(1);
+    Robot::Click("buttonClose");
+    Robot::OnGui([] { scripted.valve[TavorDev::VALVE_PR_OUTLET] = TavorDev::VALVE_CLOSE; });
+    Tick(1);
+}
+
 void ShowPage(const char* tabs, int page)
 {
     Robot::OnGui([=] { wndMain->findChild<QTabWidget*>(tabs)->setCurrentIndex(page); });
@@ -137,8 +188,9 @@ std::vector<Exhibit> WindowExhibits()
         const char* name;
         std::function<void()> show;
         std::function<void()> prepare = nullptr;
+        std::function<void()> leave = nullptr;
     } states[] = {
-        {"WndMain-starting", Window([] {}, false)},
+        {"WndMain-starting", Window([] {}, BY_ITSELF)},
         {"WndMain-no-unit", Window([] {
              scripted.connects = false;
              for (TavorDev::SensorProfile& profile : scripted.profile) {
@@ -158,6 +210,22 @@ std::vector<Exhibit> WindowExhibits()
              GetReady();
              Robot::OnGui([] { emit tavorDev.Lost(); });
          }},
+        {"WndMain-restricted", Window([] {}, BY_ITSELF), PurifyInVain},
+        {"WndMain-inner-pressure", Window([] {}, BY_ITSELF), [] {
+             GetReady();
+             SetPressure(TavorDev::PRESSENS_OPERATION, 1.5);
+             Tick(1);
+             Robot::WaitFor([] { return !Robot::TextOf("pressValue").isEmpty(); });
+         }, [] {
+             SetPressure(TavorDev::PRESSENS_OPERATION, 1.0);
+             Robot::WaitForGone("pressValue", 20 * 1000);
+         }},
+        {"WndMain-pause", Window([] {}, BY_ITSELF), MeasureInSeries},
+        {"WndMain-shutdown", Window(), [] {
+             GetReady();
+             Robot::Click("shutdown");
+             Robot::WaitForShown("labelTime");
+         }},
         {"WndMain-battery-low", Window([] { scripted.supply = {TavorDev::SUPSRC_BATTERY, RR::FixPnt1(20.4), false}; }), GetReady},
         {"WndMain-measuring", Window(), Measure},
         {"WndMain-measuring-values", Window([] { settings.flowChartView = false; }), Measure},
@@ -166,6 +234,7 @@ std::vector<Exhibit> WindowExhibits()
              Robot::OnGui([] {
                  scripted.valve[TavorDev::VALVE_DEPOT] = TavorDev::VALVE_FAILURE;
                  scripted.compressor = TavorDev::COMPRESSOR_FAILURE;
+                 scripted.depotLevel = RR::INVALID;
              });
              Tick(1);
          }},
@@ -190,7 +259,7 @@ std::vector<Exhibit> WindowExhibits()
                                     prepare();
                                 }
                                 return Settle();
-                            }});
+                            }, state.leave});
     }
     return exhibits;
 }

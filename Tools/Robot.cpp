@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QListView>
+#include <QMap>
 #include <QPixmap>
 #include <QTest>
 #include <QThread>
@@ -28,6 +30,25 @@ std::function<int()>& PlannedScenario()
 std::thread scenarioThread;
 std::atomic<int> exitStatus = 0;
 std::atomic<bool> scenarioEnded = false;
+
+/// Sees all that is painted.
+class Watcher : public QObject {
+public:
+    QMap<QString, QStringList> shown;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (const QLabel* label = event->type() == QEvent::Paint ? qobject_cast<QLabel*>(watched) : nullptr) {
+            QStringList& texts = shown[label->objectName()];
+            if (texts.isEmpty() || texts.last() != label->text()) {
+                texts += label->text();
+            }
+        }
+        return false;
+    }
+};
+Watcher* watcher = nullptr;
 
 /// `main` returns 0 whatever a scenario found; this hands its verdict to whoever started the program.
 void ReportExitStatus()
@@ -112,6 +133,11 @@ bool Touch(QWidget* widget, const QRect& part)
 static void ArrangeScenario()
 {
     std::atexit(ReportExitStatus);
+    if (PlannedScenario()) {
+        watcher = new Watcher;
+        watcher->setParent(qApp);
+        qApp->installEventFilter(watcher);
+    }
     QTimer::singleShot(0, StartScenario);
 }
 Q_COREAPP_STARTUP_FUNCTION(ArrangeScenario)
@@ -271,6 +297,32 @@ QString TextOf(const char* objectName)
         }
     });
     return text;
+}
+
+QStringList TextsShownBy(const char* labelName)
+{
+    QStringList texts;
+    OnGui([&] { texts = watcher ? watcher->shown.value(QLatin1String(labelName)) : QStringList(); });
+    return texts;
+}
+
+bool WasShown(const char* labelName, const QString& text, int limitMs)
+{
+    return WaitFor([&] { return TextsShownBy(labelName).contains(text); }, limitMs);
+}
+
+QStringList RowsOf(const char* listName)
+{
+    QStringList rows;
+    OnGui([&] {
+        for (const QWidget* widget : QApplication::allWidgets()) {
+            const QAbstractItemView* list = qobject_cast<const QAbstractItemView*>(widget);
+            for (int row = 0; list && list->objectName() == QLatin1String(listName) && row < list->model()->rowCount(); ++row) {
+                rows += list->model()->index(row, 0).data().toString();
+            }
+        }
+    });
+    return rows;
 }
 
 bool TakePicture(const QString& file)

@@ -4,7 +4,7 @@ packages_build="g++ cmake ninja-build qt6-base-dev libgl-dev qt6-tools-dev qt6-t
 packages_test="libgtest-dev libgmock-dev faketime fonts-dejavu-core"
 packages_desk="fonts-dejavu-core qt6-qpa-plugins faketime"
 packages_bench="libbenchmark-dev"
-packages_fuzz="clang libclang-rt-14-dev"
+packages_fuzz="clang libclang-rt-14-dev libgtest-dev"
 packages_display="xvfb x11vnc"
 
 # need_packages SET...: installs the packages of the sets named that are not on the machine.

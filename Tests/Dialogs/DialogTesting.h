@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Fakes/PrintQt.h"
 #include "FitCheck.h"
 #include "Globals.h"
 #include "Panel.h"
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <vector>
 
 inline QStringList Numbered(int count)
 {
@@ -27,32 +29,56 @@ protected:
     {
         Panel::Dress();
         SelectLanguage("DE");
+        elapsed.start();
     }
 
-    /// Opens a dialog, lets `look` see it, and closes it.
+    /// Much longer than any dialog waits: on a busy machine a sped-up clock runs ahead of the events.
+    static inline const int limitMs = qEnvironmentVariableIsSet("FAKETIME") ? 600000 : Robot::patienceMs;
+
+    static void Await(const std::function<bool()>& condition) { EXPECT_TRUE(Robot::WaitFor(condition, limitMs)); }
+    static void AwaitShown(const char* name) { EXPECT_TRUE(Robot::WaitForShown(name, limitMs)) << name; }
+    static void AwaitText(const char* name, const QString& text)
+    {
+        EXPECT_TRUE(Robot::WaitFor([&] { return Robot::TextOf(name) == text; }, limitMs)) << qPrintable(text);
+    }
+    using Names = std::vector<const char*>;
+    static void Tap(const Names& names)
+    {
+        for (const char* name : names) {
+            EXPECT_TRUE(Robot::Click(name, limitMs)) << name;
+        }
+    }
+
+    /// Closes the statement that says `text`.
+    static void Dismiss(const QString& text)
+    {
+        AwaitText("body", text);
+        Tap({"buttonClose"});
+    }
+
+    /// What `show` returns, whose dialog the steps use from a thread of their own.
+    template <class Show>
+    static auto Use(const Show& show, const std::function<void()>& steps)
+    {
+        const Robot::Meanwhile user(steps);
+        return show();
+    }
+
+    /// Opens a dialog, lets `look` see it, and closes it by its button if that is all the button does.
     static void LookAt(const std::function<void()>& show, const std::function<void(QWidget&)>& look)
     {
         Robot::When([] { return QApplication::activeModalWidget() != nullptr; }, [look] {
             QWidget* dialog = QApplication::activeModalWidget();
             look(*dialog);
+            if (QWidget* button = dialog->findChild<QWidget*>("buttonClose")) {
+                QTest::mouseClick(button, Qt::LeftButton);
+                EXPECT_FALSE(dialog->isVisible());
+            }
             dialog->close();
         });
         show();
     }
 
-    /// Presses a button as soon as the label of the open dialog shows `text`.
-    static void ClickAt(const char* label, const QString& text, const char* button)
-    {
-        Robot::When([=] { return Robot::TextOf(label) == text; }, [=] {
-            QTest::mouseClick(QApplication::activeModalWidget()->findChild<QWidget*>(button), Qt::LeftButton);
-        });
-    }
-
-    static double SecondsOf(const std::function<void()>& show)
-    {
-        QElapsedTimer elapsed;
-        elapsed.start();
-        show();
-        return static_cast<double>(elapsed.elapsed()) / 1000;
-    }
+    /// Since the test began, if that doesn't start it again.
+    QElapsedTimer elapsed;
 };

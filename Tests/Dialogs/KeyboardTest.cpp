@@ -5,24 +5,17 @@
 #include "DialogTesting.h"
 #include "RRx/RRFile.h"
 
-#include <QAbstractItemView>
+#include <QListView>
 #include <QPushButton>
 #include <unistd.h>
 
-namespace {
-
-const char* const file = "/mnt/sdcard-i/Settings/MeaNameList.csv";
-
 class Keyboard : public DialogTest {
 protected:
-    void SetUp() override
+    static void Store(const QStringList& names)
     {
-        DialogTest::SetUp();
         RR::DIR_Create("/mnt/sdcard-i/Settings");
-        Store({"OLD 1", "OLD 2"});
+        EXPECT_TRUE(DlgNameList::SaveNameList(file, names));
     }
-
-    static void Store(const QStringList& names) { EXPECT_TRUE(DlgNameList::SaveNameList(file, names)); }
     /// What the next start of the program finds.
     static QStringList Stored()
     {
@@ -30,146 +23,105 @@ protected:
         DlgNameList::LoadNameList(file, names);
         return names;
     }
-    void Use(const QString& former, const std::function<void()>& touches)
+    /// What becomes of `word`, in brackets if the user doesn't accept.
+    static QString Edited(QString word, const std::function<void()>& steps)
     {
-        word = former;
-        const Robot::Meanwhile user([&] { EXPECT_TRUE(Robot::WaitForShown("lineEdit")); touches(); });
-        accepted = DlgKeyboard::Show("Name", word, 40);
+        const bool accepted = Use([&] { return DlgKeyboard::Show("Name", word, 40); }, steps);
+        return accepted ? word : '(' + word + ')';
     }
-    static void Press(std::initializer_list<const char*> buttons)
-    {
-        for (const char* button : buttons) {
-            EXPECT_TRUE(Robot::Click(button)) << button;
-        }
-    }
-    static QString Line() { return Robot::TextOf("lineEdit"); }
 
-    QString word;
-    bool accepted = false;
+    static constexpr const char* file = "/mnt/sdcard-i/Settings/MeaNameList.csv";
 };
 
 TEST_F(Keyboard, EditsAtTheCursorAndKeepsTheFocusInTheLine)
 {
-    Use("FORMER", [] {
-        Press({"buttonClr"});
-        EXPECT_TRUE(Robot::TypeOnScreen(QString::fromUtf8("AB 1_Ü")));
-        Press({"buttonDel", "buttonDel", "buttonLeft", "buttonLeft", "button403"});
-        EXPECT_EQ(Line(), "ABC 1");
-        Press({"buttonRight", "button501", "buttonRight", "button410"});
-        EXPECT_EQ(Line(), "ABC  1-");
-        QString focus;
-        Robot::OnGui([&] { focus = QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); });
-        EXPECT_EQ(focus, "lineEdit");
-        Press({"buttonOk"});
-    });
-    EXPECT_TRUE(accepted);
-    EXPECT_EQ(word, "ABC  1-");
+    EXPECT_EQ(Edited("FORMER", [] {
+        Tap({"buttonClr"});
+        EXPECT_TRUE(Robot::TypeOnScreen("AB 1_Ü"));
+        Tap({"buttonDel", "buttonDel", "buttonLeft", "buttonLeft", "button403"});
+        Tap({"buttonRight", "button501", "buttonRight", "button410"});
+        Await([] { return QApplication::focusWidget() && QApplication::focusWidget()->objectName() == "lineEdit"; });
+        Tap({"buttonOk"});
+    }), "ABC  1-");
 }
 
 TEST_F(Keyboard, TypesWhatItsKeysShowInEachLanguage)
 {
-    static const struct {
-        const char* language;
-        const char* key;
-        const char* typed;
-    } rows[] = {{"DE", "button206", "Z"}, {"UK", "button206", "Y"}, {"BR", "button111", "Ç"}, {"CZ", "button408", ","},
-                {"KR", "button410", "\""}, {"RU", "button206", "Z"}, {"CN", "button311", "操作者"}};
-    QString expected;
-    Use("", [&] {
-        for (const auto& row : rows) {
-            Robot::OnGui([&] { EXPECT_TRUE(SelectLanguage(row.language)) << row.language; });
-            Press({row.key});
-            expected += QString::fromUtf8(row.typed);
-            EXPECT_EQ(Line(), expected) << row.language;
+    EXPECT_EQ(Edited("", [] {
+        for (const auto& [language, key] :
+             {std::pair("DE", "button206"), {"UK", "button206"}, {"BR", "button111"}, {"CZ", "button408"},
+              {"KR", "button410"}, {"RU", "button206"}, {"CN", "button311"}}) {
+            Robot::OnGui([language = language] { EXPECT_TRUE(SelectLanguage(language)); });
+            Tap({key});
         }
-        EXPECT_EQ(Robot::TextOf("headerTxt"), "Name");
-        Press({"buttonOk"});
-    });
-    EXPECT_EQ(word, expected);
+        AwaitText("headerTxt", "Name");
+        Tap({"buttonOk"});
+    }), "ZYÇ,\"Z操作者");
 }
 
 TEST_F(Keyboard, PutsAcceptedWordsAtTheHeadOfTheFile)
 {
-    QStringList names = Numbered(500);
-    Store(names);
-    const auto type = [&](const QString& former, const char* keys, const char* end) {
-        Use(former, [&] { EXPECT_TRUE(Robot::TypeOnScreen(keys) && Robot::Click(end)); });
-    };
-    type("", "NEW", "buttonOk");
-    names.prepend("NEW");
-    names.removeLast();
-    EXPECT_EQ(Stored(), names);
-    type("N", "7", "buttonOk");
-    names.move(names.indexOf("N7"), 0);
-    EXPECT_EQ(Stored(), names);
-    type(QString(50, 'W'), "1", "buttonOk");
-    EXPECT_EQ(word, QString(40, 'W'));
-    names = Stored();
-    EXPECT_EQ(names.first(), word);
-    type("FORMER", "X", "buttonCancel");
-    EXPECT_FALSE(accepted);
-    EXPECT_EQ(word, "FORMER");
-    EXPECT_EQ(Stored(), names);
+    Store(Numbered(500));
+    const QString full(40, 'W');
+    for (const auto& [former, keys, end, expected] :
+         {std::tuple(QString(), "NEW", "buttonOk", QString("NEW")), {full + full, "1", "buttonOk", full},
+          {"N", "7", "buttonOk", "N7"}, {"FORMER", "X", "buttonCancel", "(FORMER)"}}) {
+        EXPECT_EQ(Edited(former, [keys = keys, end = end] {
+            EXPECT_TRUE(Robot::TypeOnScreen(keys));
+            Tap({end});
+        }), expected);
+    }
+    QStringList others = Numbered(498);
+    others.removeOne("N7");
+    EXPECT_EQ(Stored(), QStringList({"N7", full, "NEW"}) + others);
 }
 
 TEST_F(Keyboard, LeavesAFileAloneThatItCannotRead)
 {
+    Store({});
     constexpr RR::SInt32 tooLarge = (32 << 20) + 1;
     ASSERT_EQ(truncate(Board::Locate(file).c_str(), tooLarge), 0);
-    Use("WORD", [] { Press({"buttonOk"}); });
+    Edited("WORD", [] { Tap({"buttonOk"}); });
     EXPECT_EQ(RR::FILE_ReadSize(file), tooLarge);
 
     RR::FILE_Delete(file);
-    Use("WORD", [] { Press({"buttonOk"}); });
+    Edited("WORD", [] { Tap({"buttonOk"}); });
     EXPECT_EQ(Stored(), QStringList("WORD"));
 }
 
 TEST_F(Keyboard, TakesNamesFromTheList)
 {
-    for (const char* end : {"buttonCancel", "buttonOk"}) {
-        Use("FORMER", [&] {
-            Press({"buttonList", "buttonClose"});
-            EXPECT_TRUE(Robot::WaitForShown("lineEdit"));
-            EXPECT_EQ(Line(), "");
-            Press({"buttonList"});
-            EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 1"));
-            Press({"deleteEntry", "buttonAccept"});
-            EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 2"));
-            Press({"buttonApply", end});
-        });
-        EXPECT_EQ(word, accepted ? "OLD 2" : "FORMER");
-        EXPECT_EQ(Stored(), accepted ? QStringList{"OLD 2"} : (QStringList{"OLD 1", "OLD 2"}));
-    }
-    EXPECT_TRUE(accepted);
+    Store({"OLD 1", "OLD 2", "OLD 3"});
+    EXPECT_EQ(Edited("FORMER", [] {
+        Tap({"buttonList", "buttonClose"});
+        AwaitText("lineEdit", "");
+        Tap({"buttonList"});
+        EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 1"));
+        Tap({"deleteEntry", "buttonAccept"});
+        AwaitText("headerTxtNum", "(2)");
+        EXPECT_TRUE(Robot::ClickRow("nameList", "OLD 3"));
+        Tap({"buttonApply", "buttonOk"});
+    }), "OLD 3");
+    EXPECT_EQ(Stored(), QStringList({"OLD 3", "OLD 2"}));
 }
 
 TEST_F(Keyboard, OffersNamesToAFingerWithoutStandingInItsWay)
 {
     Store({"STTATION", "STT_2", "STTAR", "A"});
-    const auto popup = [] { return QApplication::activePopupWidget(); };
-    Use("", [&] {
-        Press({"button302"});
-        EXPECT_TRUE(Robot::WaitFor([&] { return popup() != nullptr; }));
-        Robot::OnGui([&] {
-            const auto* rows = qobject_cast<QAbstractItemView*>(popup());
-            ASSERT_TRUE(rows);
+    EXPECT_EQ(Edited("", [] {
+        Tap({"button302"});
+        AwaitShown("offeredNames");
+        Robot::OnGui([] {
+            const auto* rows = qobject_cast<QListView*>(QApplication::activePopupWidget());
             EXPECT_EQ(rows->model()->rowCount(), 3);
             EXPECT_GE(rows->visualRect(rows->model()->index(0, 0)).height(), 44);
-            const QWidget* dialog = QApplication::activeModalWidget();
-            for (const QWidget* key : dialog->findChildren<QPushButton*>()) {
+            for (const QWidget* key : QApplication::activeModalWidget()->findChildren<QPushButton*>()) {
                 EXPECT_FALSE(rows->geometry().intersects(QRect(key->mapToGlobal(QPoint()), key->size())));
             }
         });
-        Press({"button205", "button205"});
-        EXPECT_TRUE(Robot::WaitFor([] { return Line() == "STT"; })) << "a touch beside the names is lost";
-        Press({"button408"});
-        EXPECT_TRUE(Robot::WaitFor([&] { return popup() && qobject_cast<QAbstractItemView*>(popup())->model()->rowCount() == 1; }));
+        Tap({"button205", "button205"});
+        AwaitText("lineEdit", "STT");
         EXPECT_TRUE(Robot::ClickRow("offeredNames", "STT_2"));
-        EXPECT_TRUE(Robot::WaitFor([&] { return !popup(); }));
-        EXPECT_EQ(Line(), "STT_2");
-        Press({"buttonOk"});
-    });
-    EXPECT_EQ(word, "STT_2");
-}
-
+        Tap({"buttonOk"});
+    }), "STT_2");
 }

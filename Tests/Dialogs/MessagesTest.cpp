@@ -1,174 +1,126 @@
 #include "DialogTesting.h"
 
 #include "Dialogs/DlgError.h"
-#include "Dialogs/DlgFileList.h"
 #include "Dialogs/DlgLowBatt.h"
 #include "Dialogs/DlgQuestion.h"
 #include "Dialogs/DlgStatement.h"
 
-namespace {
+[[maybe_unused]] const bool screenChosen = (Panel::ChooseScreen(), true);
 
-const bool screenChosen = (Panel::ChooseScreen(), true);
+using Show = void (*)(const QString&);
+constexpr auto yesNo = DlgQuestion::YES_NO;
+constexpr Show question = [](const QString& text) { DlgQuestion::Show(text, yesNo, DlgQuestion::UNUSED); };
+constexpr Show statement = [](const QString& text) { DlgStatement::Show(text, DlgStatement::UNUSED, true); };
+constexpr Show error = [](const QString& text) { DlgError::Show(text, "<b>B04</b>"); };
+constexpr Show lowBatt = [](const QString& text) { DlgLowBatt::Show(text, DlgLowBatt::UNUSED, false); };
 
-constexpr int screenHeight = 480;
-
-}
-
-TEST_F(DialogTest, EachButtonAnswersTheQuestionInEachLanguage)
-{
-    ASSERT_TRUE(screenChosen);
-    const struct {
-        LangCC language;
-        DlgQuestion::Option option;
-        const char* accept;
-        const char* reject;
-    } rows[] = {{"DE", DlgQuestion::YES_NO, "Ja", "Nein"}, {"UK", DlgQuestion::OK_CANCEL, "Ok", "Cancel"}};
-    for (const auto& row : rows) {
-        ASSERT_TRUE(SelectLanguage(row.language));
-        for (const bool accept : {true, false}) {
-            const Robot::Meanwhile finger([&] {
-                EXPECT_TRUE(Robot::WaitForShown("body", 60000));
-                EXPECT_EQ(Robot::TextOf("buttonAccept"), row.accept);
-                EXPECT_EQ(Robot::TextOf("buttonReject"), row.reject);
-                EXPECT_TRUE(Robot::Click(accept ? "buttonAccept" : "buttonReject", 60000));
-            });
-            EXPECT_EQ(DlgQuestion::Show(QStringLiteral("Sure?"), row.option, DlgQuestion::UNUSED), accept);
-        }
-    }
-}
-
-TEST_F(DialogTest, TimeOutsEndTheirDialogsInTheirSense)
-{
-    // Each opens the next, shorter one above itself, so that all wait at the same time.
-    const QString text = QStringLiteral("text");
-    struct {
-        int seconds;
-        std::function<bool()> show;
-        bool result;
-        double took = 0;
-    } rows[] = {{600, [&] { return DlgStatement::Show(text, DlgStatement::UNUSED, true), true; }, true},
-                {600, [&] { return DlgQuestion::Show(text, DlgQuestion::YES_NO, DlgQuestion::REJECT_600); }, false},
-                {600, [&] { return DlgStatement::Show(text, DlgStatement::CLOSE_600, true), true; }, true},
-                {300, [&] { return DlgLowBatt::Show(text, DlgLowBatt::CLOSE_300, true), true; }, true},
-                {80, [&] { return DlgQuestion::Show(text, DlgQuestion::YES_NO, DlgQuestion::ACCEPT_80); }, true},
-                {20, [&] { return DlgStatement::Show(text, DlgStatement::CLOSE_20, true), true; }, true},
-                {10, [&] { return DlgQuestion::Show(text, DlgQuestion::YES_NO, DlgQuestion::REJECT_10); }, false},
-                {5, [&] { return DlgLowBatt::Show(text, DlgLowBatt::CLOSE_5, true), true; }, true}};
-    size_t ended = 0;
-    std::function<void(size_t)> open = [&](size_t i) {
-        if (i < std::size(rows)) {
-            QTimer::singleShot(0, qApp, [&, i] { open(i + 1); });
-            rows[i].took = SecondsOf([&] { EXPECT_EQ(rows[i].show(), rows[i].result) << rows[i].seconds; });
-            ++ended;
-        }
-    };
-    // The first has no time-out and waits for a finger.
-    Robot::When([&] { return ended == std::size(rows) - 1; }, [] { Robot::Click("buttonClose"); });
-    open(0);
-    for (const auto& row : rows) {
-        EXPECT_GE(row.took, row.seconds - 1);
-        EXPECT_LT(row.took, row.seconds * 2 + 30);
-    }
-}
-
-TEST_F(DialogTest, QuestionAndStatementGrowByTheLinesOfTheirText)
-{
-    const auto heightOf = [](const QString& text, bool statement) {
-        int height = 0;
-        LookAt([&] {
-            statement ? DlgStatement::Show(text, DlgStatement::UNUSED, false)
-                      : void(DlgQuestion::Show(text, DlgQuestion::OK_CANCEL, DlgQuestion::UNUSED));
-        }, [&](QWidget& dialog) {
-            height = dialog.height();
-            EXPECT_EQ(dialog.width(), 430);
-            const QPoint off = dialog.geometry().center() - QRect(0, 0, 800, 480).center();
-            EXPECT_LE(off.manhattanLength(), 2);
+class Messages : public DialogTest {
+protected:
+    /// The size of a dialog, in the middle of the screen, that shows the whole text.
+    static QSize SizeOf(Show show, const QString& text)
+    {
+        QSize size;
+        LookAt([&] { show(text); }, [&](QWidget& dialog) {
+            size = dialog.size();
+            EXPECT_LE((dialog.geometry().center() - QRect(0, 0, 800, 480).center()).manhattanLength(), 2);
             EXPECT_EQ(FitCheck::Faults(dialog, false), QStringList());
+            EXPECT_FALSE(show == error && Robot::TextOf("body").contains('\n')) << "its paragraphs stand apart";
         });
-        return height;
-    };
-    const int line = QFontMetrics(QApplication::font()).lineSpacing();
-    const struct {
-        const char* text;
-        int lines;
-        // Letters of 12.2 pixels: one line holds 30, and the tags count as letters.
-    } rows[] = {{"one\r\ntwo", 2}, {"one<br>two", 2}, {"one<p>two<br>three<p>four\nfive", 7},
-                {"nnnnnnnnnn nnnnnnnnnn nnn", 1}, {"nnnnnnnnnn <i>nnnnnnnnnn</i> nnn", 2}};
-    for (const bool statement : {false, true}) {
-        const int oneLine = heightOf(QStringLiteral("one"), statement);
-        for (const auto& row : rows) {
-            EXPECT_EQ(heightOf(QString::fromLatin1(row.text), statement) - oneLine, (row.lines - 1) * line) << row.text;
+        return size;
+    }
+};
+
+TEST_F(Messages, EachButtonAnswersTheQuestion)
+{
+    for (const auto& [option, accept, reject] :
+         {std::tuple(yesNo, "Ja", "Nein"), {DlgQuestion::OK_CANCEL, "Ok", "Abbrechen"}}) {
+        for (const bool answer : {true, false}) {
+            EXPECT_EQ(Use([&] { return DlgQuestion::Show("Sure?", option, DlgQuestion::UNUSED); }, [&] {
+                AwaitText("buttonAccept", accept);
+                AwaitText("buttonReject", reject);
+                Tap({answer ? "buttonAccept" : "buttonReject"});
+            }), answer);
         }
     }
 }
 
-TEST_F(DialogTest, ErrorAndLowBatteryTakeTheSizeOfTheirText)
+TEST_F(Messages, TimeOutsEndTheirDialogsInTheirSense)
+{
+    // Each opens above the one before, which has longer to go, so that all wait at the same time.
+    const struct {
+        int seconds;
+        bool result;
+        std::function<bool()> show;
+    } rows[] = {{600, true, [] { return DlgStatement::Show("", DlgStatement::UNUSED, true), true; }},
+                {600, false, [] { return DlgQuestion::Show("", yesNo, DlgQuestion::REJECT_600); }},
+                {300, true, [] { return DlgLowBatt::Show("", DlgLowBatt::CLOSE_300, true), true; }},
+                {80, true, [] { return DlgQuestion::Show("", yesNo, DlgQuestion::ACCEPT_80); }},
+                {20, true, [] { return DlgStatement::Show("", DlgStatement::CLOSE_20, true), true; }}};
+    size_t ended = 0;
+    for (const auto& row : rows) {
+        QTimer::singleShot(0, qApp, [&] {
+            EXPECT_EQ(row.show(), row.result) << row.seconds;
+            EXPECT_GE(elapsed.elapsed(), row.seconds * 1000 - 1000);
+            EXPECT_LT(elapsed.elapsed(), row.seconds * 2000 + 60000);
+            ++ended;
+        });
+    }
+    // The first has no time-out and waits for a finger.
+    Robot::When([&] { return ended == std::size(rows) - 1; }, [] { Tap({"buttonClose"}); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ended == std::size(rows); }, limitMs));
+}
+
+TEST_F(Messages, QuestionAndStatementGrowByTheLinesOfTheirText)
+{
+    const int line = QFontMetrics(QApplication::font()).lineSpacing();
+    for (const Show show : {question, statement}) {
+        const int oneLine = SizeOf(show, "one").height();
+        // Letters of 12.2 pixels: one line holds 30, and the tags count as letters.
+        for (const auto& [text, lines] : {std::pair("one\r\ntwo", 2), {"one<p>two<br>three<p>four\nfive", 7},
+                                          {"nnnnnnnnnn nnnnnnnnnn nnn", 1}, {"nnnnnnnnnn <i>nnnnnnnnnn</i> nnn", 2}}) {
+            EXPECT_EQ(SizeOf(show, text), QSize(430, oneLine + (lines - 1) * line)) << text;
+        }
+    }
+}
+
+TEST_F(Messages, ErrorAndLowBatteryTakeTheSizeOfTheirText)
 {
     const QFontMetrics metrics(QApplication::font());
-    const int line = metrics.lineSpacing();
     const QString word = QStringLiteral("Messung abgebrochen!");
-    const int width = metrics.horizontalAdvance(word);
-    const struct {
-        QString text;
-        int width;
-        int lines;   ///< of the text as it is written
-        int thirds;  ///< of the font's height
-        QString shown;
-    } rows[] = {{word, width, 1, 1, word},
-                {word + "\n\n" + word, width, 3, 3, word + "<p><p>" + word},
-                {word + "<p>", metrics.horizontalAdvance(word + "<p>"), 1, 2, word + "<p>"},
-                {word + "<br>", metrics.horizontalAdvance(word + "<br>"), 1, 1, word + "<br>"}};
-    for (const auto& row : rows) {
-        for (const bool lowBatt : {false, true}) {
-            LookAt([&] {
-                lowBatt ? DlgLowBatt::Show(row.text, DlgLowBatt::UNUSED, false) : DlgError::Show(row.text, "B04-08");
-            }, [&](QWidget& dialog) {
-                EXPECT_EQ(dialog.findChild<QLabel*>("body")->text(), row.shown);
-                EXPECT_NEAR(dialog.width(), row.width + 30, 1) << qPrintable(row.text);
-                EXPECT_EQ(dialog.height(), row.lines * line + (lowBatt ? 220 : 180) + row.thirds * metrics.height() / 3)
-                    << qPrintable(row.text);
-                EXPECT_EQ(FitCheck::Faults(dialog, false), QStringList());
+    const int line = metrics.lineSpacing();
+    const int third = metrics.height() / 3;
+    for (const auto& [text, widest, height] :
+         {std::tuple(word, word, line + third), {word + "<p>", word + "<p>", line + 2 * third},
+          {word + "\n\n" + word, word, 3 * line + 3 * third}}) {
+        for (const auto& [show, extraHeight] : {std::pair(error, 180), {lowBatt, 220}}) {
+            const QSize size = SizeOf(show, text);
+            EXPECT_NEAR(size.width(), metrics.horizontalAdvance(widest) + 30, 1) << qPrintable(text);
+            EXPECT_NEAR(size.height(), height + extraHeight, 2) << qPrintable(text);
+        }
+    }
+}
+
+TEST_F(Messages, NoTextLeavesTheScreenOrIsCutOff)
+{
+    for (const QString& text : {QString(40, 'W'), QStringLiteral("<b>%1</b>&lt;%1").arg(QString(400, 'W')),
+                                QStringLiteral("five words in this line\n").repeated(80), QString("a<"), QString(),
+                                QStringLiteral("%1 %n & <img src='x' width='9000' height='9000'>")}) {
+        for (const Show show : {question, statement, error, lowBatt}) {
+            LookAt([&] { show(text); }, [&](QWidget& dialog) {
+                // A name that was typed, of 40 letters, has to be seen whole.
+                EXPECT_EQ(FitCheck::Faults(dialog, text.size() > 40), QStringList());
             });
         }
     }
 }
 
-TEST_F(DialogTest, NoTextLeavesTheScreenOrIsCutOff)
+TEST_F(Messages, TextsThatAreCutOffOrMissLettersWouldBeSeen)
 {
-    const QString texts[] = {QString(40, 'W'), QStringLiteral("<b>%1</b>&lt;%1").arg(QString(400, 'W')),
-                             QStringLiteral("five words in this line\n").repeated(80), QStringLiteral("<p>").repeated(300),
-                             QStringLiteral("a<"), QStringLiteral("%1 %n & <img src='x' width='9000' height='9000'>"), QString()};
-    for (const QString& text : texts) {
-        const std::function<void()> dialogs[] = {
-            [&] { DlgQuestion::Show(text, DlgQuestion::YES_NO, DlgQuestion::UNUSED); },
-            [&] { DlgStatement::Show(text, DlgStatement::UNUSED, true); },
-            [&] { DlgError::Show(text, QStringLiteral("<b>B04</b>")); },
-            [&] { DlgLowBatt::Show(text, DlgLowBatt::UNUSED, false); }};
-        for (const auto& show : dialogs) {
-            LookAt(show, [&](QWidget& dialog) {
-                EXPECT_EQ(FitCheck::Faults(dialog, true), QStringList()) << qPrintable(text.left(30));
-                EXPECT_LE(dialog.height(), screenHeight);
-            });
-        }
-    }
-}
-
-TEST_F(DialogTest, TheListHandsBackExactlyTheChosenName)
-{
-    const QStringList names = {"b.csv", "<b>a</b>.csv", "%1 \"q\" & 'p'.csv", QString(300, 'W'), "ä/..\\n.csv"};
-    const auto choose = [&](const QString& name, const char* button) {
-        QString chosen = QStringLiteral("before");
-        const Robot::Meanwhile finger([&] {
-            EXPECT_TRUE(Robot::WaitForShown("fileNameList", 60000));
-            EXPECT_TRUE(name.isEmpty() || Robot::ClickRow("fileNameList", name));
-            EXPECT_TRUE(Robot::Click(button, 60000));
-        });
-        EXPECT_EQ(DlgFileList::Show(QStringLiteral("<i>Files</i>"), names, chosen), qstrcmp(button, "buttonOk") == 0);
-        return chosen;
-    };
-    for (const QString& name : names) {
-        EXPECT_EQ(choose(name, "buttonOk"), name);
-    }
-    EXPECT_EQ(choose(names[0], "buttonCancel"), "before");
-    EXPECT_EQ(choose(QString(), "buttonOk"), "before");
+    LookAt([] { question("one \U000F1234"); }, [](QWidget& dialog) {
+        EXPECT_EQ(FitCheck::UncoveredTexts(dialog).size(), 1);
+        dialog.findChild<QWidget*>("body")->setFixedSize(90, 5);
+        dialog.findChild<QWidget*>("buttonAccept")->setFixedSize(90, 5);
+        dialog.move(700, 0);
+        EXPECT_EQ(FitCheck::Faults(dialog, false).size(), 3);
+    });
 }

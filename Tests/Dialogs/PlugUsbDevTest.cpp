@@ -7,89 +7,53 @@
 #include <filesystem>
 #include <fstream>
 
-namespace fs = std::filesystem;
-
-class PlugUsbDevTest : public DialogTest {
+class PlugUsbDev : public DialogTest {
 protected:
-    void SetUp() override
-    {
-        DialogTest::SetUp();
-        TearDown();
-    }
     void TearDown() override
     {
         Unmount(CFG::UsbMountPoint);
         for (const char* node : {"/dev/sda", "/dev/sda1", "/dev/sdb1", "/dev/sdb2"}) {
-            Pull(node);
+            std::filesystem::remove(Board::Locate(node));
         }
     }
 
     static void Plug(const char* node) { std::ofstream(Board::Locate(node)).close(); }
-    static void Pull(const char* node) { fs::remove(Board::Locate(node)); }
 
-    /// The text of the message that `show` ends with, empty if it ends without.
-    static QString MessageOf(const std::function<void()>& show)
-    {
-        QString message;
-        bool ended = false;
-        Robot::When([&] { return ended || Robot::IsShown("buttonClose"); }, [&] {
-            if (!ended) {
-                message = Robot::TextOf("body");
-                QApplication::activeModalWidget()->close();
-            }
-        });
-        show();
-        ended = true;
-        QTest::qWait(50);
-        return message;
-    }
+    RR::String mountPoint = "old";
+    const std::function<bool()> show = [this] { return DlgPlugUsbDev::Show(mountPoint); };
 };
 
-TEST_F(PlugUsbDevTest, APluggedStickIsMountedWithoutAQuestionAndAPartitionFirst)
+TEST_F(PlugUsbDev, APluggedStickIsMountedWithoutAQuestionAndAPartitionFirst)
 {
     EXPECT_TRUE(DlgPlugUsbDev::GetDevNode().IsEmpty());
     for (const char* node : {"/dev/sda", "/dev/sdb2", "/dev/sdb1", "/dev/sda1"}) {
         Plug(node);
         EXPECT_STREQ(DlgPlugUsbDev::GetDevNode(), node);
     }
-    RR::String mountPoint = "old";
-    EXPECT_EQ(MessageOf([&] { EXPECT_TRUE(DlgPlugUsbDev::Show(mountPoint)); }), QString());
+    EXPECT_TRUE(show());
     EXPECT_STREQ(mountPoint, CFG::UsbMountPoint);
     // It is mounted already, so the next one fails.
-    EXPECT_EQ(MessageOf([&] { EXPECT_FALSE(DlgPlugUsbDev::Show(mountPoint)); }),
-              QString::fromUtf8("Fehler ...\n\nKein Zugriff auf USB Wechseldatenträger"));
-    EXPECT_TRUE(mountPoint.IsEmpty());
+    EXPECT_FALSE(Use(show, [] { Dismiss("Fehler ...\n\nKein Zugriff auf USB Wechseldatenträger"); }));
 }
 
-TEST_F(PlugUsbDevTest, AStickIsAwaitedForHalfAMinute)
+TEST_F(PlugUsbDev, TheWaitEndsWithAStickWithTheButtonOrAfterHalfAMinute)
 {
-    RR::String mountPoint = "old";
-    QString message;
-    const double took = SecondsOf([&] { message = MessageOf([&] { EXPECT_FALSE(DlgPlugUsbDev::Show(mountPoint)); }); });
-    EXPECT_GE(took, 30);
-    EXPECT_LT(took, 60);
-    EXPECT_EQ(message, QString::fromUtf8("Kein USB Wechseldatenträger gefunden"));
-    EXPECT_TRUE(mountPoint.IsEmpty());
-}
-
-TEST_F(PlugUsbDevTest, TheWaitEndsWithTheStickOrWithTheButton)
-{
-    for (const bool plug : {true, false}) {
-        QImage first;
-        RR::String mountPoint;
-        const auto image = [] { return QApplication::activeModalWidget()->findChild<QLabel*>("usbStickImg")->pixmap().toImage(); };
-        Robot::When([] { return Robot::IsShown("usbStickImg"); }, [&] {
-            first = image();
-            Robot::When([&, image] { return image() != first; }, [plug] {
-                if (plug) {
-                    Plug("/dev/sdb1");
-                } else {
-                    QTest::mouseClick(QApplication::activeModalWidget()->findChild<QWidget*>("buttonCancel"), Qt::LeftButton);
-                }
+    for (const auto& [end, mounted, seconds] :
+         {std::tuple(+[] { Plug("/dev/sdb1"); }, true, 0), {[] { Tap({"buttonCancel"}); }, false, 0},
+          {[] { Dismiss("Kein USB Wechseldatenträger gefunden"); }, false, 30}}) {
+        elapsed.start();
+        EXPECT_EQ(Use(show, [end = end] {
+            AwaitShown("usbStickImg");
+            QList<QImage> pictures;
+            Await([&] {
+                pictures += QApplication::activeModalWidget()->findChild<QLabel*>("usbStickImg")->pixmap().toImage();
+                return pictures.last() != pictures.first();
             });
-        });
-        EXPECT_EQ(MessageOf([&] { EXPECT_EQ(DlgPlugUsbDev::Show(mountPoint), plug); }), QString());
-        EXPECT_STREQ(mountPoint, plug ? CFG::UsbMountPoint : "");
+            end();
+        }), mounted);
+        EXPECT_STREQ(mountPoint, mounted ? CFG::UsbMountPoint : "");
+        EXPECT_GE(elapsed.elapsed(), seconds * 1000);
+        EXPECT_LT(elapsed.elapsed(), seconds * 1000 + 40000) << "a message nobody expected";
         TearDown();
     }
 }

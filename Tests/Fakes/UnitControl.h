@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Board/Board.h"
+
 #include <gtest/gtest.h>
+#include <sstream>
 #include <string>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -32,4 +35,14 @@ inline std::string TellUnit(const std::string& path, const std::string& command)
     }
     close(fd);
     return answer;
+}
+
+/// Says one command, or several with semicolons between them, to the unit of the board; the test fails if one is refused.
+inline void Tell(const std::string& commands)
+{
+    std::istringstream list(commands);
+    for (std::string command; std::getline(list >> std::ws, command, ';');) {
+        const std::string answer = TellUnit(Board::Root() + "/unit.ctl", command);
+        ASSERT_TRUE(answer.ends_with("ok\n")) << command << ": " << answer;
+    }
 }

@@ -2,16 +2,9 @@
 #include "Globals.h"
 #include "Settings.h"
 
+#include <map>
 #include <sstream>
 #include <vector>
-
-// The part of the window, which isn't there.
-WndMain* wndMain = nullptr;
-
-QObject* WndMainObject()
-{
-    return nullptr;
-}
 
 void StatusMsg(const QString& msg)
 {
@@ -29,27 +22,21 @@ static void Apply(const std::string& word, JobStateMachine& machine)
     const std::string name = word.substr(0, equals);
     const bool none = word.back() == '-';
     const double value = equals == std::string::npos || none ? RR::INVALID_DOUBLE : std::stod(word.substr(equals + 1));
-    const auto number = none ? RR::INVALID : static_cast<RR::SInt32>(value);
+    const std::map<std::string, RR::SInt32*> numbers = {
+        {"T", &settings.sensPassageTime}, {"Range", &scripted.profile[TavorDev::SENSOR_SO2].rangeMax},
+        {"Air", &scripted.airPressure}, {"Depot", &scripted.depotLevel}, {"Count", &scripted.pumpBacks}};
     if (name[0] == '!') {
         scripted.failing.insert(name.substr(1));
     } else if (name == "stop") {
         machine.Stop();
     } else if (name == "insp") {
         inspectionMode = true;
-    } else if (name == "T") {
-        settings.sensPassageTime = number;
+    } else if (numbers.contains(name)) {
+        *numbers.at(name) = none ? RR::INVALID : static_cast<RR::SInt32>(value);
     } else if (name == "Hum") {
         scripted.SetDewPoint(value);
     } else if (name == "SO2") {
         scripted.amount[TavorDev::SENSOR_SO2] = value;
-    } else if (name == "Range") {
-        scripted.profile[TavorDev::SENSOR_SO2].rangeMax = number;
-    } else if (name == "Air") {
-        scripted.airPressure = number;
-    } else if (name == "Depot") {
-        scripted.depotLevel = number;
-    } else if (name == "Count") {
-        scripted.pumpBacks = number;
     } else if (name == "C") {
         scripted.compressor = TavorDev::COMPRESSOR_FAILURE;
     } else if (name[0] == 'V') {
@@ -103,6 +90,6 @@ std::string JobCourse::Run(char letter, const std::string& scenario)
     }
     log = testing::internal::GetCapturedStdout();
     const auto end = machine.GetSnapshot();
-    const QString tag = JobStateMachine::PrintStateTag(end.type, end.lastPhase, end.stopCause);
-    return (machine.IsRunning() ? "running" : tag.toStdString()) + "@" + std::to_string(tick - 1);
+    const std::string tag = JobStateMachine::PrintStateTag(end.type, end.lastPhase, end.stopCause).toStdString();
+    return (machine.IsRunning() ? letter + std::string(" runs on") : tag) + "@" + std::to_string(tick - 1);
 }

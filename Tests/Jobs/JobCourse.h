@@ -11,7 +11,8 @@ class JobCourse : public testing::Test {
 public:
     JobCourse() { scripted.Reset(); }
 
-    /// Runs a job to its end and returns where, why and when that was: "B04-08@9" is phase 4, E08, tick 9.
+    /// Runs a job to its end and returns where, why and when that was: "B04-08@9" is phase 4, E08, tick 9; "B runs on"
+    /// if it has no end.
     ///
     /// The scenario is a text of words. "@9" and "p4" say when those behind them happen: before tick 9, or before
     /// each tick in phase 4; those in front happen before the start. "P1=1.2" (bar), "SO2=11", "Hum=-25", "Air=850",
@@ -27,9 +28,7 @@ public:
     std::string log;    ///< of the last run
 };
 
-/// One run and its expected end.
+/// One run and its expected end, whose first letter is that of the job.
 struct CourseRow {
-    char letter;
-    const char* scenario;
-    const char* end;
+    const char *scenario, *end;
 };

@@ -106,53 +106,28 @@ TEST_F(TDPortTest, RequestsStandOnTheWireByteForByte)
 
 TEST_F(TDPortTest, ResponsesAreTakenExactlyWhenTheyAnswerTheRequest)
 {
-    const struct {
-        const char* what;
-        std::string line;
-        bool taken;
-    } rows[] = {
-        {"plain", "r 10000100 02 0A ff\r", true},
-        {"blanks, tabs and zeros", "  r10000100 \t 0002  00A   0ff \r", true},
-        {"another line first", "r 10000200 02 01 02\rr 10000100 02 0A FF\n", true},
-        {"an echo first", "R 10000100 02\rr 10000100 02 0A FF\r", true},
-        {"ended by a NUL", "r 10000100 02 0A FF\0 junk"s, true},
-        {"an overlong line first", std::string(300, 'r') + "\rr 10000100 02 0A FF\r", true},
-        {"binary first", "\x01\xFF\x80 r\rr 10000100 02 0A FF\r", true},
-        {"upper case letter", "R 10000100 02 0A FF\r", false},
-        {"answers a write", "w 10000100 02\r", false},
-        {"other location", "r 10000101 02 0A FF\r", false},
-        {"other count", "r 10000100 03 0A FF 01\r", false},
-        {"count too big", "r 10000100 102 0A FF\r", false},
-        {"one token short", "r 10000100 02 0A\r", false},
-        {"one token more", "r 10000100 02 0A FF 00\r", false},
-        {"data too big", "r 10000100 02 0A 100\r", false},
-        {"foreign digit", "r 10000100 02 0A FG\r", false},
-        {"location over 32 bits", "r 110000100 02 0A FF\r", false},
-        {"no line end", "r 10000100 02 0A FF", false},
-        {"nothing but line ends", "\r\n\r\n \r", false},
-    };
-    for (const auto& row : rows) {
+    const std::string good = "r 10000100 02 0A FF\r";
+    const std::pair<std::string, bool> rows[] = {
+        {good, true}, {"  r10000100 \t 0002  00A   0ff \r", true}, {"r 10000100 02 0A FF\0 junk"s, true},
+        // Other lines come first.
+        {"r 10000200 02 01 02\r" + good, true}, {"R 10000100 02\r" + good, true}, {"\x01\xFF\x80 r\r" + good, true},
+        {std::string(300, 'r') + "\r" + good, true}, {"R 10000100 02 0A FF\r", false}, {"w 10000100 02\r", false},
+        {"r 10000101 02 0A FF\r", false}, {"r 10000100 03 0A FF\r", false}, {"r 10000100 102 0A FF\r", false},
+        {"r 10000100 02 0A\r", false}, {"r 10000100 02 0A FF 00\r", false}, {"r 10000100 02 0A 100\r", false},
+        {"r 10000100 02 0A FG\r", false}, {"r 110000100 02 0A FF\r", false}, {"r 10000100 02 0A FF", false},
+        {"\r\n\r\n \r", false},
+        // The longest line has 240 characters.
+        {"r 10000100 " + std::string(222, '0') + "2 0A FF\r", true},
+        {"r 10000100 " + std::string(223, '0') + "2 0A FF\r", false}};
+    for (const auto& [line, taken] : rows) {
         TDMsg msg = ReadOf(0x10000100, 2);
-        EXPECT_EQ(Exchange(msg, row.line), row.taken) << row.what;
-        if (row.taken) {
-            EXPECT_EQ(msg[0], 0x0A) << row.what;
-            EXPECT_EQ(msg[1], 0xFF) << row.what;
-            port.Flush();
-        }
+        EXPECT_EQ(Exchange(msg, line), taken) << line;
+        EXPECT_TRUE(!taken || (msg[0] == 0x0A && msg[1] == 0xFF)) << line;
+        port.Flush();
     }
     TDMsg write;
     write.Setup(0x10000700, 0, nullptr);
     EXPECT_FALSE(Exchange(write, "w 10000700 00 01\r")) << "a write's response with data";
-}
-
-TEST_F(TDPortTest, ALineOf240CharactersIsTheLongest)
-{
-    for (const auto& [length, taken] : {std::pair{240, true}, {241, false}}) {
-        const std::string tail = "1 01";
-        const std::string head = "r 10000100 ";
-        TDMsg msg = ReadOf(0x10000100, 1);
-        EXPECT_EQ(Exchange(msg, head + std::string(length - head.size() - tail.size(), '0') + tail + "\r"), taken) << length;
-    }
 }
 
 TEST_F(TDPortTest, SilenceEndsAnExchangeAfter200Milliseconds)
@@ -161,8 +136,7 @@ TEST_F(TDPortTest, SilenceEndsAnExchangeAfter200Milliseconds)
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(port.Transceive(msg));
     const auto took = std::chrono::steady_clock::now() - start;
-    EXPECT_GE(took, std::chrono::milliseconds(190));
-    EXPECT_LT(took, std::chrono::milliseconds(600));
+    EXPECT_TRUE(took >= std::chrono::milliseconds(190) && took < std::chrono::milliseconds(600)) << took.count();
 
     TDMsg discarded = ReadOf(0x10000100, 1);
     discarded.Discard();
@@ -173,14 +147,12 @@ TEST_F(TDPortTest, SilenceEndsAnExchangeAfter200Milliseconds)
 
     port.Close();
     EXPECT_FALSE(port.Transceive(msg));
-    EXPECT_FALSE(port.Open("/dev/ttyNone"));
-    EXPECT_FALSE(port.IsOpen());
+    EXPECT_FALSE(port.Open("/dev/ttyNone") || port.IsOpen());
 }
 
 TEST(TDMsgDeathTest, BoundsStopTheProgram)
 {
     TDMsg msg;
     EXPECT_DEATH(msg.Setup(0, 65), "n >= 0 && n <= CAPACITY");
-    EXPECT_DEATH(msg.Setup(0, -1, nullptr), "n >= 0 && n <= CAPACITY");
     EXPECT_DEATH(msg[64] = 0, "index >= 0 && index < CAPACITY");
 }

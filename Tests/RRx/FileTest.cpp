@@ -14,17 +14,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Std(const String& text)
-{
-    return std::string(text, static_cast<std::size_t>(text.GetLen()));
-}
-
-std::string Content(const char* pathFile)
-{
-    String text;
-    return FILE_Read(pathFile, text) ? Std(text) : "(unreadable)";
-}
-
 std::string Names(const char* pathFilter, DirSelect select)
 {
     List<FileInfo> list;
@@ -35,7 +24,7 @@ std::string Names(const char* pathFilter, DirSelect select)
     list.Sort();
     std::string names;
     for (auto h = list.First(); !h.IsNil(); h.Next()) {
-        names += Std(h().pathFile) + " ";
+        names += std::string(h().pathFile) + " ";
     }
     return names;
 }
@@ -44,84 +33,57 @@ std::string Names(const char* pathFilter, DirSelect select)
 
 TEST(Path, PartsAreCutAtEitherSeparator)
 {
-    struct { const char *path, *folder, *segment, *file, *pathOf; } const rows[] = {
+    const struct { const char *path, *folder, *segment, *file, *pathOf; } rows[] = {
         {"/mnt/a.mea", "/mnt", "a.mea", "a.mea", "/mnt"}, {"/mnt/sub/", "/mnt", "sub", "", "/mnt/sub"},
         {"c:\\x\\y", "c:\\x", "y", "y", "c:\\x"}, {"/a", "/", "a", "a", "/"}, {"\\a", "\\", "a", "a", "\\"},
         {"/", "/", "", "", "/"}, {"", "", "", "", ""}, {"//", "/", "", "", "/"}, {"a//b", "a/", "b", "b", "a/"},
         {"name", "", "name", "name", ""}, {"name/", "", "name", "", "name"}, {".name", ".", "", "", "."},
         {"..", ".", "", "", "."}, {"./.name", ".", ".name", ".name", "."}};
     for (const auto& row : rows) {
-        String folder = "old";
+        String folder;
         String segment = row.path;
         PATH_Split(segment, folder, segment);
-        EXPECT_EQ(Std(folder), row.folder) << row.path;
-        EXPECT_EQ(Std(segment), row.segment) << row.path;
-        folder = row.path;
-        PATH_Split(folder, folder, segment);
-        EXPECT_EQ(Std(folder), row.folder) << row.path;
-        EXPECT_EQ(Std(PATH_GetFile(row.path)), row.file) << row.path;
-        EXPECT_EQ(Std(PATH_GetPath(row.path)), row.pathOf) << row.path;
+        EXPECT_STREQ(folder, row.folder) << row.path;
+        EXPECT_STREQ(segment, row.segment) << row.path;
+        EXPECT_STREQ(PATH_GetFile(row.path), row.file) << row.path;
+        EXPECT_STREQ(PATH_GetPath(row.path), row.pathOf) << row.path;
     }
 }
 
 TEST(Path, MergedPathsHaveOneSeparator)
 {
-    struct { const char *left, *right, *merged; } const rows[] = {
+    const struct { const char *left, *right, *merged; } rows[] = {
         {"/a/", "/b", "/a/b"}, {"/a", "b", "/a/b"}, {"/a/", "b", "/a/b"}, {"/a", "\\b", "/a\\b"}, {"", "b", "b"},
         {"a", "", "a"}, {"a/", "", "a/"}, {"", "/b", "/b"}, {"/", "b", "/b"}, {"", "", ""}};
     for (const auto& row : rows) {
-        EXPECT_EQ(Std(PATH_Merge(row.left, row.right)), row.merged);
+        EXPECT_STREQ(PATH_Merge(row.left, row.right), row.merged);
     }
-    char mixed[] = "\\a/b";
-    PATH_UnifySep(mixed);
-    EXPECT_STREQ(mixed, "/a/b");
-    String text = mixed;
-    PATH_UnifySep(text, '\\');
-    EXPECT_EQ(Std(text), "\\a\\b");
-    EXPECT_EQ(Std(PATH_CutFinalSep("a//")), "a/");
 }
 
 TEST(Path, AnExtensionStandsBehindANameOnly)
 {
-    struct { const char *path, *ext, *cut, *added, *name; } const rows[] = {
-        {"/x/a.b.c", "c", "/x/a.b", "/x/a.b.c.csv", "a.b"}, {"/x/.hidden", "", "/x/.hidden", "/x/.hidden.csv", ".hidden"},
-        {"x\\.y", "", "x\\.y", "x\\.y.csv", ".y"}, {".h", "", ".h", ".h.csv", ""}, {"plain", "", "plain", "plain.csv", "plain"},
-        {"a.", "", "a", "a..csv", "a"}, {"", "", "", "", ""}, {"a/", "", "a/", "a/", ""}};
+    const struct { const char *path, *ext, *cut, *added, *name; } rows[] = {
+        {"/x/a.b.c", "c", "/x/a.b", "/x/a.b.c.csv", "a.b"}, {"/x/.h", "", "/x/.h", "/x/.h.csv", ".h"},
+        {"x\\.y", "", "x\\.y", "x\\.y.csv", ".y"}, {".h", "", ".h", ".h.csv", ""}, {"a.", "", "a", "a..csv", "a"},
+        {"plain", "", "plain", "plain.csv", "plain"}, {"", "", "", "", ""}, {"a/", "", "a/", "a/", ""}};
     for (const auto& row : rows) {
-        EXPECT_EQ(Std(PATH_GetFileExt(row.path)), row.ext) << row.path;
-        EXPECT_EQ(Std(PATH_CutFileExt(row.path)), row.cut) << row.path;
-        EXPECT_EQ(Std(PATH_AddFileExt(row.path, "csv")), row.added) << row.path;
-        EXPECT_EQ(Std(PATH_AddFileExt(row.path, ".csv")), row.added) << row.path;
-        EXPECT_EQ(Std(PATH_GetFileName(row.path)), row.name) << row.path;
+        EXPECT_STREQ(PATH_GetFileExt(row.path), row.ext) << row.path;
+        EXPECT_STREQ(PATH_CutFileExt(row.path), row.cut) << row.path;
+        EXPECT_STREQ(PATH_AddFileExt(row.path, ".csv"), row.added) << row.path;
+        EXPECT_STREQ(PATH_GetFileName(row.path), row.name) << row.path;
     }
 }
 
-TEST(File, AbsolutePathsLieBelowTheBoardAndAreHandedBackWithoutIt)
+TEST(File, AbsolutePathsLieBelowTheBoard)
 {
-    ASSERT_TRUE(DIR_Create("/mnt/made/deep/er"));
-    EXPECT_TRUE(fs::is_directory(Board::Root() + "/mnt/made/deep/er"));
-    EXPECT_TRUE(DIR_Create("/mnt/made/deep/er/"));
+    ASSERT_TRUE(DIR_Create("/mnt/made/deep/er") && DIR_Create("/mnt/made/deep/er/"));
     ASSERT_TRUE(FILE_Write("/mnt/made/f", "text"));
     EXPECT_EQ(fs::file_size(Board::Root() + "/mnt/made/f"), 4u);
-    EXPECT_FALSE(MakeDir("/mnt/made/f"));
     EXPECT_FALSE(DIR_Create("/mnt/made/f/below"));
-
-    const fs::path before = fs::current_path();
-    ASSERT_TRUE(SetCurDir("/mnt/made"));
-    EXPECT_EQ(Std(GetCurDir()), "/mnt/made");
-    EXPECT_EQ(Content("f"), "text");
-    ASSERT_TRUE(SetCurDir("/"));
-    EXPECT_EQ(Std(GetCurDir()), "/");
-    fs::current_path(before);
-
     EXPECT_FALSE(DIR_Delete("/mnt/made"));
     EXPECT_TRUE(DIR_Delete("/mnt/made/deep/er"));
     EXPECT_TRUE(FILE_Rename("/mnt/made/f", "/mnt/made/g"));
-    EXPECT_FALSE(FILE_IsPresent("/mnt/made/f"));
-    EXPECT_TRUE(FILE_IsReadWritable("/mnt/made/g"));
-    EXPECT_FALSE(FILE_IsExecutable("/etc/nothing"));
     EXPECT_TRUE(FILE_Delete("/mnt/made/g"));
-    EXPECT_FALSE(FILE_Delete("/mnt/made/g"));
     EXPECT_FALSE(FILE_IsPresent(nullptr));
 }
 
@@ -132,34 +94,22 @@ TEST(File, InfoTellsKindSizeAndTimeOfWhatIsThere)
     ASSERT_EQ(utimensat(AT_FDCWD, Board::Locate("/mnt/dated").c_str(), times, 0), 0);
     FileInfo info;
     ASSERT_TRUE(FILE_ReadInfo("/mnt/dated", info));
-    EXPECT_EQ(Std(info.pathFile), "/mnt/dated");
-    EXPECT_EQ(info.type, FT_REGULAR);
-    EXPECT_EQ(info.size, 5);
+    EXPECT_STREQ(info.pathFile, "/mnt/dated");
+    EXPECT_TRUE(info.type == FT_REGULAR && info.size == 5);
     EXPECT_EQ(info.modTime, DateTime(29, 2, 2000, 0, 0, 0));
-
     EXPECT_FALSE(FILE_ReadInfo("/mnt/absent", info));
-    EXPECT_EQ(Std(info.pathFile), "/mnt/absent");
-    EXPECT_EQ(info.type, FT_ERR);
-    EXPECT_EQ(info.size, INVALID);
-    EXPECT_FALSE(info.modTime.IsValid());
-    EXPECT_FALSE(FILE_IsPresent("/mnt/absent")) << "made by asking";
+    EXPECT_TRUE(info.type == FT_ERR && info.size == INVALID && !info.modTime.IsValid());
 
     ASSERT_EQ(mkfifo(Board::Locate("/mnt/pipe").c_str(), 0600), 0);
-    EXPECT_EQ(FILE_ReadType("/mnt/pipe"), FT_OTHER);
-    EXPECT_TRUE(DIR_IsPresent("/mnt"));
-    EXPECT_EQ(FILE_ReadSize("/mnt"), INVALID);
-
     fs::resize_file(Board::Locate("/mnt/dated"), 0x80000000u);
-    EXPECT_EQ(FILE_ReadSize("/mnt/dated"), INVALID);
-    EXPECT_EQ(FILE_ReadType("/mnt/dated"), FT_ERR);
-    EXPECT_EQ(Content("/mnt/dated"), "(unreadable)");
-    for (const char* path : {"/mnt", "/mnt/pipe", "/mnt/absent"}) {
+    for (const char* path : {"/mnt", "/mnt/pipe", "/mnt/absent", "/mnt/dated"}) {
         Array<UInt08> bytes(3);
-        EXPECT_FALSE(FILE_Read(path, bytes)) << path;
-        EXPECT_TRUE(bytes.IsEmpty()) << path;
+        String text("old");
+        EXPECT_EQ(FILE_ReadSize(path), INVALID) << path;
+        EXPECT_FALSE(FILE_Read(path, bytes) || FILE_Read(path, text)) << path;
+        EXPECT_TRUE(bytes.IsEmpty() && text.IsEmpty()) << path;
     }
     EXPECT_FALSE(FILE_IsPresent("/mnt/absent")) << "made by reading";
-    FILE_Delete("/mnt/dated");
     FILE_Delete("/mnt/pipe");
 }
 
@@ -180,13 +130,6 @@ TEST(File, ReadsAndWritesAnyBytesAndCopiesWholeBlocks)
         ASSERT_TRUE(FILE_Read("/mnt/copy", text));
         EXPECT_EQ(text.GetLen(), size) << "with NUL bytes in it";
     }
-    Array<UInt08> block(100);
-    EXPECT_FALSE(ReadFileNext(-1, block));
-    bool full = true;
-    EXPECT_FALSE(WriteFileNext(-1, block.Adr(), 1, full));
-    EXPECT_FALSE(full);
-    FILE_Delete("/mnt/source");
-    FILE_Delete("/mnt/copy");
 }
 
 TEST(File, AFullMediumIsToldFromOtherFailures)
@@ -202,9 +145,6 @@ TEST(File, AFullMediumIsToldFromOtherFailures)
     EXPECT_FALSE(FILE_Copy("/mnt/source", "/mnt/full", full));
     EXPECT_TRUE(full);
     EXPECT_FALSE(fs::is_symlink(fullDevice)) << "the incomplete copy stays";
-    EXPECT_FALSE(FILE_Copy("/mnt/source", "/absent/copy", full));
-    EXPECT_FALSE(full);
-    FILE_Delete("/mnt/source");
 }
 
 TEST(File, APartlyWrittenContentIsAFailure)
@@ -218,10 +158,8 @@ TEST(File, APartlyWrittenContentIsAFailure)
     const bool written = FILE_Write("/mnt/short", "more than ten bytes", full);
     setrlimit(RLIMIT_FSIZE, &before);
     signal(SIGXFSZ, ignoring);
-    EXPECT_FALSE(written);
-    EXPECT_FALSE(full);
-    EXPECT_EQ(Content("/mnt/short"), "more than ");
-    FILE_Delete("/mnt/short");
+    EXPECT_FALSE(written || full);
+    EXPECT_EQ(FILE_ReadSize("/mnt/short"), 10);
 }
 
 TEST(Dir, ListsByPatternWhateverTheCaseAndByKind)
@@ -230,14 +168,11 @@ TEST(Dir, ListsByPatternWhateverTheCaseAndByKind)
     for (const char* file : {"/mnt/list/A.MEA", "/mnt/list/b.mea", "/mnt/list/c.csv", "/mnt/list/.h.mea"}) {
         ASSERT_TRUE(FILE_Write(file, ""));
     }
-    fs::create_symlink("nowhere", Board::Root() + "/mnt/list/dangling.mea");
-    EXPECT_EQ(Names("/mnt/list/*.mea", DIR_FILES), "/mnt/list/.h.mea /mnt/list/A.MEA /mnt/list/b.mea /mnt/list/dangling.mea ");
+    fs::create_symlink("nowhere", Board::Root() + "/mnt/list/d.mea");
+    EXPECT_EQ(Names("/mnt/list/*.mea", DIR_FILES), "/mnt/list/.h.mea /mnt/list/A.MEA /mnt/list/b.mea /mnt/list/d.mea ");
     EXPECT_EQ(Names("/mnt/list/*.mea", DIR_FOLDERS), "/mnt/list/Folder.mea ");
-    EXPECT_EQ(Names("/mnt/list/?.*", DIR_ALL), "/mnt/list/A.MEA /mnt/list/b.mea /mnt/list/c.csv ");
-    EXPECT_EQ(Names("/mnt/list/c.csv", DIR_FILES), "/mnt/list/c.csv ");
-    EXPECT_EQ(Names("/mnt/list/", DIR_ALL), "/mnt/list ");
+    EXPECT_EQ(Names("/mnt/list/?.*", DIR_ALL), "/mnt/list/A.MEA /mnt/list/b.mea /mnt/list/c.csv /mnt/list/d.mea ");
     EXPECT_EQ(Names("/mnt/list/nothing*", DIR_ALL), "");
     EXPECT_EQ(Names("/absent/*", DIR_ALL), "(failed)");
-    EXPECT_EQ(Names("", DIR_ALL), "(failed)");
     fs::remove_all(Board::Root() + "/mnt/list");
 }

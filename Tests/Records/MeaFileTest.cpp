@@ -9,7 +9,7 @@ using namespace RR;
 namespace {
 
 /// What the instrument writes for `DistinctRecord`. Never changed: files outlive programs.
-const std::string reference = GetFile(MEA_CORPUS "/Full.mea");
+const std::string reference = ReadFile(MEA_CORPUS "/Full.mea");
 
 /// A snapshot in which no two readings, verdicts or settings of one type are alike, SO2 without reading.
 Mea DistinctRecord()
@@ -62,15 +62,13 @@ TEST(MeaFile, EveryFieldIsStoredBelowItsKeyAndComesBack)
     const Mea mea = DistinctRecord();
     settings.meaSaveNumber = 9999;
     ASSERT_TRUE(mea.Save("Saved.mea"));
-    EXPECT_EQ(GetFile(Board::Locate(CFG::MeaFilesFolder) + "/Saved.mea"), reference);
+    EXPECT_EQ(ReadFile(Board::Locate(CFG::MeaFilesFolder) + "/Saved.mea"), reference);
     EXPECT_EQ(settings.meaSaveNumber, 1);
     EXPECT_FALSE(mea.Save("no-such-folder/Saved.mea"));
     EXPECT_EQ(settings.meaSaveNumber, 2) << "advances with a failed save too";
-
     Mea loaded;
     EXPECT_EQ(LoadText(reference, loaded), Mea::ACCEPTED);
     EXPECT_EQ(DifferentFields(mea, loaded), "");
-    EXPECT_FALSE(loaded.IsEmpty());
 }
 
 TEST(MeaFile, DamageAtAnyByteIsNoticedUnlessItChangesNothing)
@@ -97,38 +95,30 @@ TEST(MeaFile, DamageAtAnyByteIsNoticedUnlessItChangesNothing)
 
 TEST(MeaFile, TheSignatureCoversTheValuesAlone)
 {
-    const struct {
-        const char* what;
-        std::string text;
-        Mea::LoadState state;
-    } rows[] = {
+    const std::tuple<const char*, std::string, Mea::LoadState> rows[] = {
         {"line ends", Edit("\r\n", "\n"), Mea::ACCEPTED},
         {"spacing and remarks", Edit("\"\r\n", "\"\t# note\r\n \r\n # note\r\n"), Mea::ACCEPTED},
         {"lower case signature", Edit("0X07A51156", "0x07a51156"), Mea::ACCEPTED},
-        {"characters moved to the next value",
-         Edit("4.500\"\r\nM-AmountH2S          = \"", "4.5\"\r\nM-AmountH2S = \"00"), Mea::ACCEPTED},
+        {"to the next value", Edit("00\"\r\nM-AmountH2S          = \"", "\"\r\nM-AmountH2S = \"00"), Mea::ACCEPTED},
+        {"another order", Edit("M-Type               = \"C\"\r\n", "") + "M-Type = \"C\"\r\n", Mea::ACCEPTED},
         {"one digit", Edit("\"96.5\"", "\"97.5\""), Mea::MODIFIED},
-        {"two values swapped",
-         Edit("\"lo\"\r\nM-ReportSO2          = \"---\"", "\"---\"\r\nM-ReportSO2 = \"lo\""), Mea::MODIFIED},
+        {"values swapped", Edit("lo\"\r\nM-ReportSO2          = \"---", "---\"\r\nM-ReportSO2 = \"lo"), Mea::MODIFIED},
         {"signature gone", Edit("A-Signature          = \"0X07A51156\"\r\n", ""), Mea::MODIFIED},
         {"one more key", reference + "Z = \"1\"\r\n", Mea::MODIFIED},
-        {"another order of the keys", Edit("M-Type               = \"C\"\r\n", "") + "M-Type = \"C\"\r\n", Mea::ACCEPTED},
         {"other kind of file", Edit("ZARN-Measurement", "ZARN-Settings"), Mea::REJECTED},
-        {"a key twice", reference + "M-Type = \"C\"\r\n", Mea::REJECTED},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+        {"a key twice", reference + "M-Type = \"C\"\r\n", Mea::REJECTED}};
+    for (const auto& [what, text, state] : rows) {
+        SCOPED_TRACE(what);
         Mea loaded, brief;
-        EXPECT_EQ(LoadText(row.text, loaded), row.state);
-        EXPECT_EQ(brief.LoadBrief("Text.mea"), row.state);
+        EXPECT_EQ(LoadText(text, loaded), state);
+        EXPECT_EQ(brief.LoadBrief("Text.mea"), state);
         EXPECT_EQ(BiC(brief.dateTime) + BiC(brief.name) + BiC(brief.amountSF6) + BiC(brief.result),
                   BiC(loaded.dateTime) + BiC(loaded.name) + BiC(loaded.amountSF6) + BiC(loaded.result));
-        EXPECT_EQ(loaded.IsEmpty(), row.state != Mea::ACCEPTED);
-        EXPECT_EQ(DifferentFields(loaded, Mea()).empty(), row.state == Mea::REJECTED);
+        EXPECT_EQ(loaded.IsEmpty(), state != Mea::ACCEPTED);
+        EXPECT_EQ(DifferentFields(loaded, Mea()).empty(), state == Mea::REJECTED);
     }
     Mea loaded;
     EXPECT_EQ(loaded.Load("Missing.mea"), Mea::REJECTED);
     LoadText(Edit("\"C\"", "\"CC\""), loaded);
-    EXPECT_EQ(loaded.type, '-');
     EXPECT_EQ(DifferentFields(loaded, DistinctRecord()), "M-Type ") << "a modified file shows its values";
 }

