@@ -1,33 +1,20 @@
 #!/usr/bin/env bash
-# What the running program takes while the link is up and no job runs, beside a bare window of the same build type:
-# processor time over a minute, and memory that is its own (proportional set size).
+# What the running program takes with the link up and no job, and during a measurement, at normal speed; and its memory
+# (proportional set size) beside that of a bare window of the same build type. usage: running-program.sh [SECONDS]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . Tools/machine.sh
 need_packages build desk bench
 cmake --preset bench >/dev/null
-cmake --build --preset bench --target zarn-desk zarn-unit bare-window
+cmake --build --preset bench --target program-watched zarn-unit bare-window
 bin="$PWD/build/bench"
-seconds="${1:-60}"
 board=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$board"' EXIT
-export QT_QPA_PLATFORM=offscreen ZARN_BOARD="$board"
+export QT_QPA_PLATFORM=offscreen ZARN_BOARD="$board" ZARN_BENCH_SECONDS="${1:-60}"
 mkdir -p "$board/dev"
+: >"$board/dev/mmcblk0p1"
 
-"$bin/SensorUnit/zarn-unit" --link "$board/dev/ttySAC0" --control "$board/unit.ctl" -- "$bin/Src/zarn-desk" >"$board/log" 2>&1 &
 "$bin/Bench/bare-window" &
-bare=$!
-# The preparation at the start of the program has ended by then.
-sleep 50
-program=$(pgrep -nf "$bin/Src/zarn-desk")
-
-ticks() { awk '{print $14 + $15}' "/proc/$1/stat"; }
-pss() { awk '/^Pss:/{print $2}' "/proc/$1/smaps_rollup"; }
-
-before=$(ticks "$program")
-sleep "$seconds"
-after=$(ticks "$program")
-awk -v t=$((after - before)) -v hz="$(getconf CLK_TCK)" -v s="$seconds" -v p="$(pss "$program")" -v b="$(pss "$bare")" 'BEGIN {
-    printf "processor time: %.2f %% of one core\n", 100 * t / hz / s
-    printf "memory: program %d KiB, bare window %d KiB, ratio %.2f\n", p, b, p / b
-}'
+"$bin/SensorUnit/zarn-unit" --link "$board/dev/ttySAC0" --control "$board/unit.ctl" -- "$bin/Bench/program-watched" |
+    grep --line-buffered -E '^(processor|program)'
+echo "bare window $(grep '^Pss:' "/proc/$!/smaps_rollup" 2>/dev/null || grep '^Pss:' "/proc/$(pgrep -n bare-window)/smaps_rollup")"
