@@ -4,6 +4,7 @@
 #include "Dialogs/DlgSensorInfo.h"
 #include "Dialogs/DlgShutdown.h"
 #include "Dialogs/DlgStatement.h"
+#include "Dialogs/DlgTDFirmware.h"
 #include "Globals.h"
 #include "TDFirmware.h"
 #include "TavorDev.h"
@@ -61,24 +62,27 @@ void WndMain::On2ndStage()
 
 void WndMain::CheckFirmware()
 {
-    if (tavorDev.GetMode() == TavorDev::MODE_APPL) {
+    switch (tavorDev.GetMode()) {
+    case TavorDev::MODE_APPL: {
         TavorDev::Info info;
         tavorDev.GetDevInfo(info);
         SVersion needed = TDFW_INFO.applVers;
         if (info.applVers != needed) {
             RR::Log("[ZARN] TDev version disparity (has: %s, need: %s)\n", info.applVers.ToStr(), needed.ToStr());
+            DlgTDFirmware::Show();
         }
-        return;
+        break;
     }
-    ui->statusInoperableSymb->show();
-    ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
-    if (tavorDev.GetMode() == TavorDev::MODE_PGMLDR) {
-        RR::Log("[ZARN] Tavor device in program loader mode\n");
-        return;
+    case TavorDev::MODE_PGMLDR:
+        DlgTDFirmware::Show();
+        break;
+    default:
+        ui->statusInoperableSymb->show();
+        ShowStatusBarMsg(tr("Gerät nicht betriebsbereit"), inoperableSecs);
+        DlgStatement::Show(tr("Keine Sensoreinheit gefunden"), DlgStatement::CLOSE_60, true);
+        QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
+        PlaceSensorOutputFields();
     }
-    DlgStatement::Show(tr("Keine Sensoreinheit gefunden"), DlgStatement::CLOSE_60, true);
-    QTimer::singleShot(reconnectMs, this, &WndMain::OnReconnectTavorDev);
-    PlaceSensorOutputFields();
 }
 
 void WndMain::SynchronizeClocks()

@@ -6,11 +6,13 @@
 #include "Dialogs/DlgMeaResult.h"
 #include "Dialogs/DlgMeaStart.h"
 #include "Dialogs/DlgSaveAs.h"
+#include "Dialogs/DlgTDFirmware.h"
 #include "Fakes/ScriptedTavorDev.h"
 #include "Gallery.h"
 #include "Mea.h"
 #include "Robot.h"
 #include "Settings.h"
+#include "TDFirmware.h"
 
 #include <QApplication>
 
@@ -111,6 +113,22 @@ void ShowInnerPressWarning(double operationBar)
     DlgInnerPressWarning::Show();
 }
 
+/// Up to its message: of a unit on a wrong board, or of success.
+void ShowFirmware(RR::SInt32 boardType)
+{
+    MakeNew();
+    scripted.info.boardType = boardType;
+    if (boardType != TDFW_INFO.boardType) {
+        scripted.failing = {"connect1"};
+    }
+    DlgTDFirmware::Show();
+}
+
+bool AwaitMessage()
+{
+    return Robot::WaitForShown("buttonClose");
+}
+
 bool AwaitPressure()
 {
     return Robot::WaitFor([] { return !Robot::TextOf("pressValue").isEmpty(); });
@@ -149,6 +167,8 @@ std::vector<Exhibit> ProcessExhibits()
         {"DlgInnerPressWarning-high", TYPICAL, [] { ShowInnerPressWarning(1.5); }, AwaitPressure},
         {"DlgInnerPressWarning-low", TYPICAL, [] { ShowInnerPressWarning(0.5); }, AwaitPressure},
         {"DlgInnerPressWarning-invalid", TYPICAL, [] { ShowInnerPressWarning(0.5); }, LoseAirPressure},
+        {"DlgTDFirmware-done", TYPICAL, [] { ShowFirmware(TDFW_INFO.boardType); }, AwaitMessage},
+        {"DlgTDFirmware-wrong-board", TYPICAL, [] { ShowFirmware(2); }, AwaitMessage},
     };
 }
 

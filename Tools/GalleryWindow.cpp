@@ -11,6 +11,7 @@
 #include <fstream>
 #include <QApplication>
 #include <QLabel>
+#include <QProgressBar>
 #include <QTabWidget>
 
 // The main window in the states that a user can see, and its tabs.
@@ -197,6 +198,12 @@ std::vector<Exhibit> WindowExhibits()
                  profile = {};
              }
          }), [] { Robot::Click("buttonClose"); }},
+        {"WndMain-firmware", Window([] { scripted.info.applVers = SVersion("V5.9"); }, BY_ITSELF), [] {
+             Robot::WaitFor([] {
+                 const auto* bar = QApplication::activeModalWidget()->findChild<QProgressBar*>("progress");
+                 return bar && bar->value() > 120;
+             });
+         }, [] { Robot::Click("buttonClose"); }},
         {"WndMain-preparing", Window(), [] { AwaitPreparation(); Tick(3); }},
         {"WndMain-ready", Window(), GetReady},
         {"WndMain-ready-values", Window([] { settings.flowChartView = false; }), GetReady},

@@ -608,6 +608,67 @@ No access to USB storage device</translation>
     </message>
 </context>
 <context>
+    <name>DlgTDFirmware</name>
+    <message>
+        <source>Firmware-Aktualisierung Sensoreinheit</source>
+        <translation>Firmware upgrade sensor unit</translation>
+    </message>
+    <message>
+        <source>Verbinden ...</source>
+        <translation>Connecting ...</translation>
+    </message>
+    <message>
+        <source>Programmierung ...</source>
+        <translation>Programming ...</translation>
+    </message>
+    <message>
+        <source>Keine Sensoreinheit gefunden</source>
+        <translation>No sensor unit found</translation>
+    </message>
+    <message>
+        <source>Falscher Boardtyp
+
+Gefunden: 0x%1, Vorgesehen: 0x%2
+</source>
+        <translation>Sensor unit: Wrong board type
+
+Found: 0x%1, needed: 0x%2
+</translation>
+    </message>
+    <message>
+        <source>Kein Programmlader-Modul gefunden</source>
+        <translation>No program loading module found</translation>
+    </message>
+    <message>
+        <source>Fehler bei Programmierung</source>
+        <translation>Failure while programming</translation>
+    </message>
+    <message>
+        <source>Verifizierung ...</source>
+        <translation>Verify ...</translation>
+    </message>
+    <message>
+        <source>Verifizierungsfehler</source>
+        <translation>Verify failure</translation>
+    </message>
+    <message>
+        <source>Abgeschlossen</source>
+        <translation>Completed</translation>
+    </message>
+    <message>
+        <source>
+Aktualisierung erfolgreich
+</source>
+        <translation>
+Upgrade successful
+</translation>
+    </message>
+    <message>
+        <source>Fehler bei Programmierung der Sensoreinheit</source>
+        <translation>Failure while programming sensor unit</translation>
+    </message>
+</context>
+<context>
     <name>JobStateMachine</name>
     <message>
         <source>Messwertaufnahme</source>
@@ -1299,11 +1360,11 @@ Delete oldest</translation>
     </message>
     <message>
         <source>Die Speicherkapazität von %1 Messungen ist erreicht.&lt;p&gt;&lt;i&gt;Bitte Messungen löschen oder Option&lt;br&gt;&lt;b&gt;Automatischen Löschung&lt;/b&gt;&lt;br&gt;aktivieren.&lt;/i&gt;</source>
-        <translation>The limit of %1 measurements is reached. &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;"automatic cancellation".&lt;/b&gt;&lt;/i&gt;</translation>
+        <translation>The limit of %1 measurements is reached. &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;&quot;automatic cancellation&quot;.&lt;/b&gt;&lt;/i&gt;</translation>
     </message>
     <message>
         <source>Die Speicherkapazität von %1 Messungen wird bei Durchführung der geplanten %2 Messungen überschritten.&lt;p&gt;&lt;i&gt;Bitte Messungen löschen oder Option&lt;br&gt;&lt;b&gt;Automatischen Löschung&lt;/b&gt;&lt;br&gt;aktivieren.&lt;/i&gt;</source>
-        <translation>The limit of %1 measurements will be reached with the planned %2 mesurements &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;"automatic cancellation".&lt;/b&gt;&lt;/i&gt;</translation>
+        <translation>The limit of %1 measurements will be reached with the planned %2 mesurements &lt;p&gt;&lt;i&gt;Please delete measurements or activate option &lt;br&gt;&lt;b&gt;&quot;automatic cancellation&quot;.&lt;/b&gt;&lt;/i&gt;</translation>
     </message>
     <message>
         <source>Name der Messung oder Messstelle</source>

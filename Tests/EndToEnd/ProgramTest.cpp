@@ -8,6 +8,7 @@
 #include "RRx/RRList.h"
 #include "Robot.h"
 #include "Settings.h"
+#include "TDFirmware.h"
 #include "TavorDev.h"
 
 #include <csignal>
@@ -297,6 +298,25 @@ TEST_F(Restarted, TheNameTypedStandsInTheRecordAndAtTheHeadOfTheList)
     EXPECT_EQ(Robot::TextOf("lineEdit"), "FELD 7");
     ASSERT_TRUE(Robot::Click("buttonList") && Robot::WaitForShown("nameList"));
     EXPECT_EQ(Robot::RowsOf("nameList"), (QStringList{"FELD 7", "FELD 6"}));
+}
+
+TEST_F(Before, AUnitWhoseProgramWasSpoiltGetsTheDeliveredOne)
+{
+    ASSERT_TRUE(WaitForReady());
+    Tell("image damage");
+}
+
+TEST_F(Restarted, AUnitWhoseProgramWasSpoiltGetsTheDeliveredOne)
+{
+    ASSERT_TRUE(Robot::WaitForShown("infoText"));
+    ExpectStatement("\nAktualisierung erfolgreich\n");
+    ASSERT_TRUE(WaitForReady());
+    EXPECT_TRUE(Logged("[ZARN] Tavor device: Programming ... done"));
+    EXPECT_TRUE(Logged("[ZARN] Tavor device: Verifying   ... done"));
+    TavorDev::Info info;
+    EXPECT_TRUE(tavorDev.GetDevInfo(info) && info.applVers == TDFW_INFO.applVers);
+    ASSERT_TRUE(Measure());
+    EXPECT_EQ(Stored().size(), 1u);
 }
 
 TEST_F(Program, AMeasurementWithPumpBackEndsWithTheGasBackInTheCompartment)

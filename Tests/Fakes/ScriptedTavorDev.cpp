@@ -15,7 +15,7 @@ void Scripted::Reset()
 {
     *this = Scripted();
     inspectionMode = false;
-    info = {16, SVersion("1.5"), 1, SVersion("1.0")};
+    info = {55, SVersion("6.0"), 17, SVersion("2.0")};
     supply = {TavorDev::SUPSRC_LINE_AND_CHARGING_COMPLETE, FixPnt1(24.0), false};
     clock = RR::DateTime(31, 1, 2024, 12, 0, 0);
     temperature = Temperature(25, 77);
@@ -100,8 +100,24 @@ void TavorDev::Disconnect()
     emit Disconnected();
 }
 
-bool TavorDev::Read(RR::UInt32, RR::Array<unsigned char>&) const { return false; }
-bool TavorDev::Write(RR::UInt32 loc, const RR::Array<unsigned char>&) { return scripted.Command("write" + std::to_string(loc)); }
+bool TavorDev::Read(RR::UInt32 loc, RR::Array<unsigned char>& data) const
+{
+    const std::vector<unsigned char>& stored = scripted.memory[loc];
+    if (scripted.badReads[loc]-- > 0 || static_cast<SInt32>(stored.size()) != data.GetSize()) {
+        return false;
+    }
+    std::copy(stored.begin(), stored.end(), data.Adr());
+    return true;
+}
+
+bool TavorDev::Write(RR::UInt32 loc, const RR::Array<unsigned char>& data)
+{
+    if (!scripted.Command("write" + std::to_string(loc)) || scripted.badWrites[loc]-- > 0) {
+        return false;
+    }
+    scripted.memory[loc].assign(data.Adr(), data.Adr() + data.GetSize());
+    return true;
+}
 
 TavorDev::SupplyInfo TavorDev::GetSupplyInfo() const { return scripted.supply; }
 RR::DateTime TavorDev::GetRTC() const { return scripted.clock; }

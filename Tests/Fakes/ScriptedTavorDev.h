@@ -2,6 +2,7 @@
 
 #include "TavorDev.h"
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -31,6 +32,9 @@ struct Scripted {
     TavorDev::ValveState valve[TavorDev::VALVE_NUM] = {};        ///< follow the commands
     TavorDev::CompressorState compressor = TavorDev::COMPRESSOR_OFF;
     TavorDev::FanState fan[2] = {};
+
+    std::map<RR::UInt32, std::vector<unsigned char>> memory; ///< program memory, by location as it was written
+    std::map<RR::UInt32, int> badWrites, badReads;           ///< so many at a location fail yet
 
     std::set<std::string> failing;         ///< commands that the unit refuses; they are noted, and change nothing
     std::vector<std::string> commands;     ///< all since `Reset`, in order

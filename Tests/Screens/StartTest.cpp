@@ -55,6 +55,30 @@ TEST_F(WindowTest, AUnitThatIsFoundLateMakesTheWindowReadyWithoutPreparation)
     EXPECT_EQ(Status(), "");
 }
 
+TEST_F(WindowTest, AUnitWithOtherFirmwareIsUpgradedAndThenPrepared)
+{
+    scripted.info.applVers = SVersion("V5.9");
+    scripted.clock = RR::DateTime(31, 12, 2000, 23, 59, 59);
+    const auto told = Answer("body", "Aktualisierung erfolgreich", "buttonClose");
+    OpenReady();
+    EXPECT_TRUE(*told);
+    EXPECT_EQ(scripted.memory.size(), 341u);
+    EXPECT_EQ(scripted.Count("clock"), 1);
+}
+
+TEST_F(WindowTest, AUnitThatStaysInItsLoaderGetsNeitherClockNorPreparation)
+{
+    scripted.failing = {"connect0", "write0"};
+    scripted.clock = RR::DateTime(31, 12, 2000, 23, 59, 59);
+    const auto told = Answer("body", "Fehler bei Programmierung", "buttonClose");
+    Open();
+    ASSERT_TRUE(WaitFor([&] { return *told; }));
+    Wait(7);
+    EXPECT_EQ(tavorDev.GetMode(), TavorDev::MODE_PGMLDR);
+    EXPECT_EQ(scripted.Count("clock") + scripted.Count("connect0"), 1) << "there is nothing to connect to";
+    EXPECT_FALSE(jobSTM.IsRunning() || Find<>("startMea").isEnabled());
+}
+
 TEST_F(WindowTest, SensorsWhoseCalibrationRunsOutWithinThirtyDaysAreNamed)
 {
     RR::Date now = RR::Date::Today();
