@@ -1,6 +1,6 @@
 # Sourced by the scripts: makes sure that the machine has what they call. Installs only what is missing.
 
-packages_build="g++ cmake ninja-build qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools librsvg2-bin"
+packages_build="g++ cmake ninja-build qt6-base-dev libgl-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools librsvg2-bin optipng"
 packages_test="libgtest-dev libgmock-dev faketime fonts-dejavu-core"
 packages_desk="fonts-dejavu-core qt6-qpa-plugins faketime"
 packages_bench="libbenchmark-dev"
