@@ -69,6 +69,8 @@ int main(int argc, char** argv)
 
     Arguments arguments(argc, argv);
     QApplication application(arguments.count, arguments.list.data());
+    // The window system's part is loaded. All pictures are PNG, which needs no further one, and a search for the others takes time.
+    QApplication::setLibraryPaths({});
     if (optionR) {
         QApplication::setOverrideCursor(Qt::BlankCursor);
     }
