@@ -157,6 +157,10 @@ void WndMain::CheckMemoryCard()
 
 void WndMain::ApplyInspectionMode()
 {
+    if (ui->chartFrame->styleSheet().isEmpty()) {
+        // Without a sheet of its own yet, it would be stripped of the new one before that is put on: the picture would be read twice.
+        ui->chartFrame->setAttribute(Qt::WA_StyleSheet, false);
+    }
     ui->chartFrame->setStyleSheet(inspectionMode
             ? QStringLiteral("QFrame#chartFrame{image: url(:/TImg/Images/Device_Chart_B.png);}")
             : QStringLiteral("QFrame#chartFrame{image: url(:/TImg/Images/Device_Chart_A.png);}"));
