@@ -12,7 +12,7 @@
 /// work on the event loop's thread. Where a modal dialog is open, only its widgets and those of a pop-up can be found.
 namespace Robot {
 
-/// How long what a touch leads to may take: at twenty times the speed a full second of a busy machine.
+/// How long what a touch leads to may take. Where the clock is sped up, all limits here are ten times as long.
 constexpr int patienceMs = 20000;
 
 /// Runs `scenario` once the event loop of the application runs. Made before `main`, as a static object.

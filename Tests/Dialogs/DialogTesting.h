@@ -32,20 +32,17 @@ protected:
         elapsed.start();
     }
 
-    /// Much longer than any dialog waits: on a busy machine a sped-up clock runs ahead of the events.
-    static inline const int limitMs = qEnvironmentVariableIsSet("FAKETIME") ? 600000 : Robot::patienceMs;
-
-    static void Await(const std::function<bool()>& condition) { EXPECT_TRUE(Robot::WaitFor(condition, limitMs)); }
-    static void AwaitShown(const char* name) { EXPECT_TRUE(Robot::WaitForShown(name, limitMs)) << name; }
+    static void Await(const std::function<bool()>& condition) { EXPECT_TRUE(Robot::WaitFor(condition)); }
+    static void AwaitShown(const char* name) { EXPECT_TRUE(Robot::WaitForShown(name)) << name; }
     static void AwaitText(const char* name, const QString& text)
     {
-        EXPECT_TRUE(Robot::WaitFor([&] { return Robot::TextOf(name) == text; }, limitMs)) << qPrintable(text);
+        EXPECT_TRUE(Robot::WaitFor([&] { return Robot::TextOf(name) == text; })) << qPrintable(text);
     }
     using Names = std::vector<const char*>;
     static void Tap(const Names& names)
     {
         for (const char* name : names) {
-            EXPECT_TRUE(Robot::Click(name, limitMs)) << name;
+            EXPECT_TRUE(Robot::Click(name)) << name;
         }
     }
 

@@ -67,7 +67,7 @@ TEST_F(Messages, TimeOutsEndTheirDialogsInTheirSense)
     }
     // The first has no time-out and waits for a finger.
     Robot::When([&] { return ended == std::size(rows) - 1; }, [] { Tap({"buttonClose"}); });
-    EXPECT_TRUE(QTest::qWaitFor([&] { return ended == std::size(rows); }, limitMs));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ended == std::size(rows); }, 600 * 1000));
 }
 
 TEST_F(Messages, QuestionAndStatementGrowByTheLinesOfTheirText)
