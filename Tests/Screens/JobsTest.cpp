@@ -52,13 +52,14 @@ struct JobControl : WindowTest {
     /// The jobs that have followed by the time that the window is at rest and stays so.
     std::string CourseToRest()
     {
-        QElapsedTimer rest;
-        rest.start();
+        QElapsedTimer rest; // from when it was first seen: dialogs may have taken long before
         EXPECT_TRUE(WaitFor([&] {
             if (!IsAtRest()) {
-                rest.restart();
+                rest.invalidate();
+            } else if (!rest.isValid()) {
+                rest.start();
             }
-            return rest.elapsed() > 10 * 1000;
+            return rest.isValid() && rest.elapsed() > 10 * 1000;
         })) << course.toStdString();
         return std::exchange(course, {}).toStdString();
     }
