@@ -75,7 +75,7 @@ void UnitProcess::Reopen()
     termios settings{};
     settings.c_iflag = IGNPAR;
     settings.c_cflag = B57600 | CS8 | CREAD | CLOCAL;
-    settings.c_cc[VTIME] = 2;
+    settings.c_cc[VTIME] = 10; // tenths of a second; the unit may have to wait for a processor
     tcflush(line, TCIFLUSH);
     tcsetattr(line, TCSAFLUSH, &settings);
 }
