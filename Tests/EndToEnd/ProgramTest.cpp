@@ -476,7 +476,7 @@ TEST_F(Outages, AResetOfTheUnitEndsInRestWhateverJobItMeets)
 {
     InEachJob([] {
         Tell("reset");
-        for (int closed = 0; closed < 20 && !WaitForRest(30 * secondMs); ++closed) {
+        for (int closed = 0; closed < 20 && !WaitForRest(3 * secondMs); ++closed) {
             for (const char* button : {"stopJob", "buttonAccept", "buttonClose", "buttonQuit"}) {
                 Robot::Click(button, 0);
             }
